@@ -1,0 +1,17 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+#ifndef KITS_START_ARGUMENTS_H
+#define KITS_START_ARGUMENTS_H
+
+#include <Message.h>
+
+namespace kits {
+
+/** B_REFS_RECEIVED with a reference for each argument of this process that names something that
+	exists, in order; without a field when there is none. */
+BMessage refs_of_start_arguments();
+
+}
+
+#endif

@@ -1,0 +1,105 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KITS_CANVAS_H
+#define KITS_CANVAS_H
+
+#include "display/region.h"
+
+#include <Font.h>
+#include <GraphicsDefs.h>
+#include <memory>
+#include <mutex>
+#include <Point.h>
+#include <Rect.h>
+
+class QImage;
+class QPainter;
+
+namespace kits {
+
+// What a view draws with.
+struct drawing_state {
+	rgb_color high = {0, 0, 0, 255};
+	rgb_color low = {255, 255, 255, 255};
+	BPoint pen = BPoint(0, 0);
+	BFont font;
+};
+
+class canvas;
+
+// One view's drawing on a canvas: where its coordinates lie, what it may touch.
+struct drawing_context {
+	canvas* target = nullptr;
+	const drawing_state* state = nullptr;
+	// Added to the view's coordinates: gives canvas pixels.
+	BPoint offset;
+	// Canvas pixels that the view covers.
+	BRect clip;
+	// What an update repaints, in the view's coordinates; null outside updates.
+	const region* update = nullptr;
+};
+
+// What a peer shows: written by the looper's thread, read by the display, both under the lock and
+// only for a copy.
+struct front_image {
+	front_image();
+	~front_image();
+
+	std::mutex lock;
+	std::unique_ptr<QImage> image;
+	// Set while an update of the peer is on its way; what it will bring to the screen.
+	bool asked = false;
+	BRect dirty;
+};
+
+// Pixels to draw on, and the drawing. Sizes are kit pixels; the image behind has ratio times as many
+// device pixels in each direction. One thread at a time.
+class canvas {
+public:
+	canvas(int32 width, int32 height, float ratio);
+	// On somebody else's 32-bit pixels, which must outlive the canvas.
+	canvas(void* bits, int32 width, int32 height, int32 bytesPerRow);
+	~canvas();
+	canvas(const canvas&) = delete;
+	canvas& operator=(const canvas&) = delete;
+
+	int32 width() const { return fWidth; }
+	int32 height() const { return fHeight; }
+	float ratio() const { return fRatio; }
+
+	// Fills with one colour, outside all modes. The rectangle is in the context's view coordinates.
+	void erase(const drawing_context& context, BRect rect, rgb_color color);
+	void fill_rect(const drawing_context& context, BRect rect, const pattern& p);
+	void stroke_line(const drawing_context& context, BPoint from, BPoint to, const pattern& p);
+	void stroke_rect(const drawing_context& context, BRect rect, const pattern& p);
+	// Without a display nothing is drawn.
+	void text(const drawing_context& context, const char* text, int32 length, BPoint baseline);
+	void image(const drawing_context& context, const canvas& source, BPoint where);
+
+	// Moves the pixels; what comes in from outside is left as it is.
+	void scroll(int32 dx, int32 dy);
+	// Takes over what both have in common, left tops together.
+	void take_over(const canvas& old);
+	// Copies what was drawn since the last call to the front image. Empty when nothing was.
+	BRect publish(front_image& front);
+
+private:
+	class painter;
+
+	void _Touched(const drawing_context& context, BRect rect);
+
+	std::unique_ptr<QImage> fImage;
+	int32 fWidth;
+	int32 fHeight;
+	float fRatio;
+	BRect fTouched;
+};
+
+// Width of the text in pixels; 0 without a display. Any thread.
+float text_width(const BFont& font, const char* text, int32 length);
+// Rounded up to whole pixels. Any thread.
+font_height text_height(const BFont& font);
+
+}
+
+#endif

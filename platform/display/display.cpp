@@ -1,0 +1,143 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+#include "display/display.h"
+
+#include "display/command_queue.h"
+#include "display/look.h"
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <QApplication>
+#include <QFontInfo>
+#include <semaphore>
+#include <unistd.h>
+
+using namespace kits;
+
+
+namespace {
+
+// Made once and never destroyed: other threads may still run while a lost display ends the process.
+command_queue* commands = nullptr;
+std::atomic<bool> is_running{false};
+std::atomic<bool> is_serving{false};
+std::thread::id display_thread;
+QString* first_complaint = nullptr;
+
+
+/** Qt aborts when it finds no display. This turns that into one line and a plain end. */
+void
+end_without_display(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+	if (type == QtFatalMsg) {
+		QString reason = first_complaint->isEmpty() ? text : *first_complaint;
+		fprintf(stderr, "%s: no display to open a window on: %s\n", program_invocation_short_name,
+			qPrintable(reason.section('\n', 0, 0).trimmed()));
+		_exit(1);
+	}
+	if (first_complaint->isEmpty())
+		*first_complaint = text;
+}
+
+
+void
+make_application()
+{
+	static int count = 1;
+	static char* arguments[] = {program_invocation_short_name, nullptr};
+	first_complaint = new QString;
+	qInstallMessageHandler(end_without_display);
+	QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+	QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
+	auto* application = new QApplication(count, arguments);
+	qInstallMessageHandler(nullptr);
+	application->setQuitOnLastWindowClosed(false);
+	set_look(*application);
+	if (QFontInfo(application->font()).family().isEmpty())
+		fprintf(stderr, "%s: no fonts are installed, so no text can be shown\n",
+			program_invocation_short_name);
+}
+
+}
+
+
+void
+display::start()
+{
+	if (is_running)
+		return;
+	display_thread = std::this_thread::get_id();
+	commands = new command_queue;
+	make_application();
+	is_running = true;
+}
+
+
+bool
+display::running()
+{
+	return is_running;
+}
+
+
+bool
+display::serving()
+{
+	return is_serving;
+}
+
+
+bool
+display::serving_here()
+{
+	return is_serving && std::this_thread::get_id() == display_thread;
+}
+
+
+void
+display::post(command work)
+{
+	commands->post(std::move(work));
+}
+
+
+void
+display::call(const command& work)
+{
+	if (std::this_thread::get_id() == display_thread) {
+		commands->drain();
+		work();
+		return;
+	}
+	std::binary_semaphore done(0);
+	commands->post([&] {
+		work();
+		done.release();
+	});
+	done.acquire();
+}
+
+
+void
+display::serve()
+{
+	is_serving = true;
+	QApplication::exec();
+	is_serving = false;
+}
+
+
+void
+display::stop()
+{
+	post([] { QCoreApplication::exit(0); });
+}
+
+
+void
+display::drain()
+{
+	commands->drain();
+}

@@ -1,0 +1,97 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#include "display/peer.h"
+
+#include "display/convert.h"
+#include "display/display.h"
+#include "display/view_widget.h"
+
+using namespace kits;
+
+
+peer_ref
+peers::make_view(const peer_ref& parent, BRect frame, bool shown, int32 looper,
+	const std::shared_ptr<front_image>& front)
+{
+	auto made = std::make_shared<peer>();
+	display::post([=] {
+		if (!parent->widget)
+			return;
+		auto* widget = new view_widget(parent->widget, looper, front);
+		adopt(made, widget, frame, shown);
+	});
+	return made;
+}
+
+
+void
+kits::adopt(const peer_ref& owner, QWidget* widget, BRect frame, bool shown)
+{
+	owner->widget = widget;
+	QObject::connect(widget, &QObject::destroyed, [owner] { owner->widget = nullptr; });
+	widget->setGeometry(to_qrect(frame));
+	widget->setVisible(shown);
+}
+
+
+void
+peers::set_frame(const peer_ref& view, BRect frame)
+{
+	display::post([=] {
+		if (view->widget)
+			view->widget->setGeometry(to_qrect(frame));
+	});
+}
+
+
+void
+peers::set_shown(const peer_ref& view, bool shown)
+{
+	display::post([=] {
+		if (view->widget)
+			view->widget->setVisible(shown);
+	});
+}
+
+
+void
+peers::stack_under(const peer_ref& view, const peer_ref& other)
+{
+	display::post([=] {
+		if (view->widget && other->widget)
+			view->widget->stackUnder(other->widget);
+	});
+}
+
+
+void
+peers::update(const peer_ref& view, const std::shared_ptr<front_image>& front, BRect dirty)
+{
+	{
+		std::lock_guard guard(front->lock);
+		front->dirty = front->asked ? front->dirty | dirty : dirty;
+		if (front->asked)
+			return;
+		front->asked = true;
+	}
+	display::post([=] {
+		BRect place;
+		{
+			std::lock_guard guard(front->lock);
+			front->asked = false;
+			place = front->dirty;
+		}
+		if (view->widget)
+			view->widget->update(to_qrect(place));
+	});
+}
+
+
+void
+peers::destroy(const peer_ref& view)
+{
+	display::post([=] {
+		if (view->widget)
+			view->widget->deleteLater();
+	});
+}

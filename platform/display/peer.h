@@ -1,0 +1,43 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KITS_PEER_H
+#define KITS_PEER_H
+
+#include "display/canvas.h"
+
+#include <memory>
+#include <SupportDefs.h>
+
+class BMessage;
+class QWidget;
+
+namespace kits {
+
+// What stands for a view or window on the display. The kit object shares it with the commands that
+// it posts; only the display thread looks inside. The widget is null before its command has run and
+// after it has gone.
+struct peer {
+	QWidget* widget = nullptr;
+};
+
+using peer_ref = std::shared_ptr<peer>;
+
+// All of these post a command and return; any thread. Frames include their right and bottom edge and
+// are in the parent's coordinates.
+namespace peers {
+
+// A plain view that shows the front image. Pointer events go to the looper with that token.
+peer_ref make_view(const peer_ref& parent, BRect frame, bool shown, int32 looper,
+	const std::shared_ptr<front_image>& front);
+void set_frame(const peer_ref& view, BRect frame);
+void set_shown(const peer_ref& view, bool shown);
+// Below the other in the stacking order of siblings.
+void stack_under(const peer_ref& view, const peer_ref& other);
+// Shows what was published: one update at a time is on its way.
+void update(const peer_ref& view, const std::shared_ptr<front_image>& front, BRect dirty);
+void destroy(const peer_ref& view);
+
+}
+}
+
+#endif

@@ -1,0 +1,36 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KITS_VIEW_WIDGET_H
+#define KITS_VIEW_WIDGET_H
+
+#include "display/peer.h"
+
+#include <QWidget>
+
+namespace kits {
+
+// The widget of a view: shows its front image and hands pointer events to the window's looper, in
+// window coordinates. Which view an event is for, the looper decides.
+class view_widget : public QWidget {
+public:
+	view_widget(QWidget* parent, int32 looper, std::shared_ptr<front_image> front);
+
+protected:
+	void paintEvent(QPaintEvent* event) override;
+	void mousePressEvent(QMouseEvent* event) override;
+	void mouseDoubleClickEvent(QMouseEvent* event) override;
+	void mouseReleaseEvent(QMouseEvent* event) override;
+	void mouseMoveEvent(QMouseEvent* event) override;
+	void wheelEvent(QWheelEvent* event) override;
+
+private:
+	const int32 fLooper;
+	const std::shared_ptr<front_image> fFront;
+};
+
+// Makes the widget the peer's, in its place. Display thread.
+void adopt(const peer_ref& owner, QWidget* widget, BRect frame, bool shown);
+
+}
+
+#endif

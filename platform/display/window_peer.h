@@ -1,0 +1,47 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KITS_WINDOW_PEER_H
+#define KITS_WINDOW_PEER_H
+
+#include "display/peer.h"
+
+#include <string>
+
+namespace kits {
+
+// In content pixels, as counts: one more than the kit's differences.
+struct size_limits {
+	int32 min_width;
+	int32 max_width;
+	int32 min_height;
+	int32 max_height;
+};
+
+// Commands for a window's widget; any thread.
+namespace window_peers {
+
+// The widget of a window, not yet shown. Input and changes of size go to the looper.
+peer_ref make(BRect frame, const std::string& title, int32 looper);
+// Device pixels per kit pixel where the window is. Waits for the display.
+float ratio(const peer_ref& window);
+void show(const peer_ref& window, bool shown);
+void set_position(const peer_ref& window, BPoint leftTop);
+// The serial tells which of the kit's changes a later report already knows.
+void set_size(const peer_ref& window, int32 width, int32 height, int32 serial);
+void set_limits(const peer_ref& window, size_limits limits);
+// Where the content's left top is on the screen. Waits for the display.
+BPoint position(const peer_ref& window);
+
+}
+
+// Fields of B_WINDOW_RESIZED from the display: int32 "width" and "height" (counts of pixels) and
+// "serial".
+constexpr const char* width_field = "width";
+constexpr const char* height_field = "height";
+constexpr const char* serial_field = "serial";
+// From the display: float "ratio" of the screen that the window has come to.
+constexpr uint32 ratio_changed = '_RTO';
+
+}
+
+#endif

@@ -1,0 +1,79 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#include "display/window_widget.h"
+
+#include "display/input.h"
+#include "display/window_peer.h"
+
+#include <AppDefs.h>
+#include <QCloseEvent>
+#include <QResizeEvent>
+
+using namespace kits;
+
+
+window_widget::window_widget(int32 looper) : fLooper(looper), fRatio(devicePixelRatio())
+{
+	setFocusPolicy(Qt::NoFocus);
+	setMouseTracking(true);
+}
+
+
+void
+window_widget::set_size(int32 width, int32 height, int32 serial)
+{
+	fSerial = serial;
+	resize(width, height);
+}
+
+
+void
+window_widget::resizeEvent(QResizeEvent* event)
+{
+	BMessage resized(B_WINDOW_RESIZED);
+	resized.AddInt32(width_field, event->size().width());
+	resized.AddInt32(height_field, event->size().height());
+	resized.AddInt32(serial_field, fSerial);
+	post_to(fLooper, resized);
+}
+
+
+void
+window_widget::closeEvent(QCloseEvent* event)
+{
+	event->ignore();
+	post_to(fLooper, BMessage(B_QUIT_REQUESTED));
+}
+
+
+void
+window_widget::changeEvent(QEvent* event)
+{
+	QWidget::changeEvent(event);
+	if (event->type() != QEvent::WindowStateChange || !isMaximized())
+		return;
+	// The zoom button asks too: the window decides on a size of its own.
+	setWindowState(windowState() & ~Qt::WindowMaximized);
+	post_to(fLooper, BMessage(B_ZOOM));
+}
+
+
+bool
+window_widget::event(QEvent* event)
+{
+	if (event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show)
+		_ReportRatio();
+	return QWidget::event(event);
+}
+
+
+void
+window_widget::_ReportRatio()
+{
+	if (fRatio == devicePixelRatio())
+		return;
+	fRatio = devicePixelRatio();
+	BMessage changed(ratio_changed);
+	changed.AddFloat("ratio", (float)fRatio);
+	post_to(fLooper, changed);
+}

@@ -1,0 +1,34 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KITS_WINDOW_WIDGET_H
+#define KITS_WINDOW_WIDGET_H
+
+#include <QWidget>
+#include <SupportDefs.h>
+
+namespace kits {
+
+// The widget of a window. Its looper's answer decides everything: a close box only asks.
+class window_widget : public QWidget {
+public:
+	explicit window_widget(int32 looper);
+
+	void set_size(int32 width, int32 height, int32 serial);
+
+protected:
+	void resizeEvent(QResizeEvent* event) override;
+	void closeEvent(QCloseEvent* event) override;
+	void changeEvent(QEvent* event) override;
+	bool event(QEvent* event) override;
+
+private:
+	void _ReportRatio();
+
+	const int32 fLooper;
+	int32 fSerial = 0;
+	qreal fRatio;
+};
+
+}
+
+#endif

@@ -1,0 +1,347 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+// Where a view is: frame, resizing, scrolling, and whether it can be seen.
+#include "interface/view_state.h"
+#include "interface/window_state.h"
+
+#include <algorithm>
+#include <cmath>
+#include <Message.h>
+#include <ScrollBar.h>
+#include <Window.h>
+
+using namespace kits;
+
+
+namespace {
+
+// How far an edge moves whose rule is the digit, when its parent grows by delta.
+float
+edge_step(uint32 mode, int digit, uint32 follow, float delta)
+{
+	uint32 rule = mode >> (4 * digit) & 0xF;
+	if (rule == follow)
+		return delta;
+	return rule == 5 ? std::floor(delta / 2) : 0;
+}
+
+enum { right_digit, bottom_digit, left_digit, top_digit };
+enum { follow_bottom = 3, follow_right = 4 };
+
+// Pixels of one notch of the wheel in small steps of the bar.
+constexpr float wheel_steps = 3;
+
+}
+
+
+BRect
+BView::Bounds() const
+{
+	BRect bounds = fState->frame;
+	bounds.OffsetTo(fState->scroll);
+	return bounds;
+}
+
+
+BRect
+BView::Frame() const
+{
+	return fState->frame;
+}
+
+
+BPoint
+BView::ConvertToParent(BPoint point) const
+{
+	return point - fState->scroll + fState->frame.LeftTop();
+}
+
+
+BPoint
+BView::ConvertFromParent(BPoint point) const
+{
+	return point + fState->scroll - fState->frame.LeftTop();
+}
+
+
+BPoint
+BView::ConvertToScreen(BPoint point) const
+{
+	for (const BView* view = this; view; view = view->fState->parent)
+		point = view->ConvertToParent(point);
+	return fState->window ? point + fState->window->Frame().LeftTop() : point;
+}
+
+
+BPoint
+BView::ConvertFromScreen(BPoint point) const
+{
+	BPoint origin = ConvertToScreen(BPoint(0, 0));
+	return point - origin;
+}
+
+
+BPoint
+BView::_FromWindow(BPoint where) const
+{
+	BPoint origin(0, 0);
+	for (const BView* view = this; view; view = view->fState->parent)
+		origin = view->ConvertToParent(origin);
+	return where - origin;
+}
+
+
+void
+BView::MoveTo(float x, float y)
+{
+	BRect frame = fState->frame;
+	frame.OffsetTo(std::round(x), std::round(y));
+	_SetFrame(frame);
+}
+
+
+void
+BView::MoveTo(BPoint where)
+{
+	MoveTo(where.x, where.y);
+}
+
+
+void
+BView::MoveBy(float dx, float dy)
+{
+	MoveTo(fState->frame.left + dx, fState->frame.top + dy);
+}
+
+
+void
+BView::ResizeTo(float width, float height)
+{
+	BRect frame = fState->frame;
+	frame.right = frame.left + std::round(width);
+	frame.bottom = frame.top + std::round(height);
+	_SetFrame(frame);
+}
+
+
+void
+BView::ResizeBy(float dx, float dy)
+{
+	ResizeTo(fState->frame.Width() + dx, fState->frame.Height() + dy);
+}
+
+
+void
+BView::_SetFrame(BRect frame)
+{
+	BRect before = fState->frame;
+	if (frame == before)
+		return;
+	fState->frame = frame;
+	if (fState->widget && fState->parent)
+		peers::set_frame(fState->widget, _PeerFrame());
+	float dx = fState->frame.Width() - before.Width();
+	float dy = fState->frame.Height() - before.Height();
+	if (dx == 0 && dy == 0)
+		return;
+	BRect bounds = Bounds();
+	if (fState->flags & B_FULL_UPDATE_ON_RESIZE)
+		Invalidate();
+	if (dx > 0)
+		Invalidate(BRect(bounds.right - dx + 1, bounds.top, bounds.right, bounds.bottom));
+	if (dy > 0)
+		Invalidate(BRect(bounds.left, bounds.bottom - dy + 1, bounds.right, bounds.bottom));
+	for (BView* child : fState->children)
+		child->_FollowParent(dx, dy);
+}
+
+
+void
+BView::_FollowParent(float dx, float dy)
+{
+	uint32 mode = fState->resizing;
+	BRect frame = fState->frame;
+	frame.left += edge_step(mode, left_digit, follow_right, dx);
+	frame.right += edge_step(mode, right_digit, follow_right, dx);
+	frame.top += edge_step(mode, top_digit, follow_bottom, dy);
+	frame.bottom += edge_step(mode, bottom_digit, follow_bottom, dy);
+	_SetFrame(frame);
+}
+
+
+BScrollBar*
+BView::ScrollBar(orientation posture) const
+{
+	return fState->bars[posture];
+}
+
+
+void
+BView::ScrollTo(float x, float y)
+{
+	ScrollTo(BPoint(x, y));
+}
+
+
+void
+BView::ScrollBy(float dx, float dy)
+{
+	ScrollTo(fState->scroll + BPoint(dx, dy));
+}
+
+
+void
+BView::ScrollTo(BPoint where)
+{
+	if (!std::isfinite(where.x) || !std::isfinite(where.y))
+		return;
+	const BScrollBar* across = fState->bars[B_HORIZONTAL];
+	const BScrollBar* down = fState->bars[B_VERTICAL];
+	BPoint to(std::round(where.x), std::round(where.y));
+	if (across)
+		to.x = std::clamp(to.x, across->fMin, across->fMax);
+	if (down)
+		to.y = std::clamp(to.y, down->fMin, down->fMax);
+	BPoint by = to - fState->scroll;
+	if (by == BPoint(0, 0))
+		return;
+	fState->scroll = to;
+	_ScrollContents(by);
+	_ScrollBarsFollow();
+}
+
+
+// Pixels that stay in sight move; what comes into sight is drawn.
+void
+BView::_ScrollContents(BPoint by)
+{
+	if (fState->image) {
+		fState->image->scroll((int32)-by.x, (int32)-by.y);
+		_Touched();
+	}
+	BRect bounds = Bounds();
+	if (by.x > 0)
+		Invalidate(BRect(bounds.right - by.x + 1, bounds.top, bounds.right, bounds.bottom));
+	else if (by.x < 0)
+		Invalidate(BRect(bounds.left, bounds.top, bounds.left - by.x - 1, bounds.bottom));
+	if (by.y > 0)
+		Invalidate(BRect(bounds.left, bounds.bottom - by.y + 1, bounds.right, bounds.bottom));
+	else if (by.y < 0)
+		Invalidate(BRect(bounds.left, bounds.top, bounds.right, bounds.top - by.y - 1));
+	for (BView* child : fState->children) {
+		if (child->fState->widget)
+			peers::set_frame(child->fState->widget, child->_PeerFrame());
+	}
+}
+
+
+void
+BView::_ScrollBarsFollow()
+{
+	// Taken first: a bar's own change may scroll the view again.
+	BPoint to = fState->scroll;
+	if (fState->bars[B_HORIZONTAL])
+		fState->bars[B_HORIZONTAL]->SetValue(to.x);
+	if (fState->bars[B_VERTICAL])
+		fState->bars[B_VERTICAL]->SetValue(to.y);
+}
+
+
+void
+BView::_Wheel(BMessage* message)
+{
+	BScrollBar* across = fState->bars[B_HORIZONTAL];
+	BScrollBar* down = fState->bars[B_VERTICAL];
+	if (!across && !down) {
+		BHandler::MessageReceived(message);
+		return;
+	}
+	float x = message->FindFloat("be:wheel_delta_x");
+	float y = message->FindFloat("be:wheel_delta_y");
+	if (across)
+		across->SetValue(across->fValue + x * across->fSmallStep * wheel_steps);
+	if (down)
+		down->SetValue(down->fValue + y * down->fSmallStep * wheel_steps);
+}
+
+
+void
+BView::Show()
+{
+	fState->hidden--;
+	if (fState->hidden == 0)
+		_VisibilityChanged();
+}
+
+
+void
+BView::Hide()
+{
+	fState->hidden++;
+	if (fState->hidden == 1)
+		_VisibilityChanged();
+}
+
+
+bool
+BView::IsHidden() const
+{
+	return IsHidden(nullptr);
+}
+
+
+bool
+BView::IsHidden(const BView* lookingFrom) const
+{
+	for (const BView* view = this; view; view = view->fState->parent) {
+		if (view->fState->hidden > 0)
+			return true;
+		if (view == lookingFrom)
+			return false;
+	}
+	return fState->window && fState->window->IsHidden();
+}
+
+
+bool
+BView::_CanBeSeen() const
+{
+	return fState->window && fState->window->_OnScreen() && !IsHidden();
+}
+
+
+// What comes into sight has to be drawn anew, since nothing that is out of sight keeps its pixels.
+void
+BView::_VisibilityChanged()
+{
+	if (!fState->window)
+		return;
+	if (fState->widget && fState->parent)
+		peers::set_shown(fState->widget, fState->hidden <= 0);
+	_ForgetImages();
+}
+
+
+void
+BView::_ForgetImages()
+{
+	fState->image = nullptr;
+	fState->invalid.clear();
+	Invalidate();
+	for (BView* child : fState->children)
+		child->_ForgetImages();
+}
+
+
+BView*
+BView::_ViewAt(BPoint where)
+{
+	if (fState->hidden > 0 || !Bounds().Contains(where))
+		return nullptr;
+	auto& children = fState->children;
+	for (auto child = children.rbegin(); child != children.rend(); ++child) {
+		if (BView* found = (*child)->_ViewAt((*child)->ConvertFromParent(where)))
+			return found;
+	}
+	return this;
+}

@@ -1,0 +1,206 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#include "storage/errno_status.h"
+#include "storage/ref_paths.h"
+#include <File.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+constexpr uint32 kOpenModes = O_ACCMODE | O_CREAT | O_EXCL | O_TRUNC | O_APPEND;
+
+
+// Repeats `step`, which moves bytes from the given offset on and answers like read(), until all is
+// moved, nothing more comes or an error stops it. An error after the first byte waits for the next
+// call: what was moved must not go uncounted.
+template <class Step>
+ssize_t
+move_bytes(size_t size, Step step)
+{
+	size_t done = 0;
+	while (done < size) {
+		const ssize_t moved = step(done);
+		if (moved < 0 && errno == EINTR) {
+			continue;
+		}
+		if (moved < 0 && done == 0) {
+			return status_of_errno(errno);
+		}
+		if (moved <= 0) {
+			break;
+		}
+		done += static_cast<size_t>(moved);
+	}
+	return static_cast<ssize_t>(done);
+}
+
+}
+
+
+BFile::BFile(const entry_ref* ref, uint32 openMode)
+{
+	SetTo(ref, openMode);
+}
+
+
+BFile::BFile(const BEntry* entry, uint32 openMode)
+{
+	SetTo(entry, openMode);
+}
+
+
+BFile::BFile(const char* path, uint32 openMode)
+{
+	SetTo(path, openMode);
+}
+
+
+status_t
+BFile::SetTo(const entry_ref* ref, uint32 openMode)
+{
+	std::string path;
+	const status_t status = ref == nullptr ? B_BAD_VALUE : path_of_ref(*ref, &path);
+	return status == B_OK ? OpenFile(AT_FDCWD, path.c_str(), openMode) : Fail(status);
+}
+
+
+status_t
+BFile::SetTo(const BEntry* entry, uint32 openMode)
+{
+	entry_ref ref;
+	const status_t status = entry == nullptr ? B_BAD_VALUE : entry->GetRef(&ref);
+	return status == B_OK ? SetTo(&ref, openMode) : Fail(status);
+}
+
+
+status_t
+BFile::SetTo(const char* path, uint32 openMode)
+{
+	return path == nullptr ? Fail(B_BAD_VALUE) : OpenFile(AT_FDCWD, path, openMode);
+}
+
+
+ssize_t
+BFile::Read(void* buffer, size_t size)
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	if (buffer == nullptr) {
+		return B_BAD_VALUE;
+	}
+	return move_bytes(size, [&](size_t done) {
+		return read(Descriptor(), static_cast<char*>(buffer) + done, size - done);
+	});
+}
+
+
+ssize_t
+BFile::Write(const void* buffer, size_t size)
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	if (buffer == nullptr) {
+		return B_BAD_VALUE;
+	}
+	return move_bytes(size, [&](size_t done) {
+		return write(Descriptor(), static_cast<const char*>(buffer) + done, size - done);
+	});
+}
+
+
+ssize_t
+BFile::ReadAt(off_t position, void* buffer, size_t size)
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	if (buffer == nullptr) {
+		return B_BAD_VALUE;
+	}
+	return move_bytes(size, [&](size_t done) {
+		return pread(Descriptor(), static_cast<char*>(buffer) + done, size - done,
+			position + static_cast<off_t>(done));
+	});
+}
+
+
+ssize_t
+BFile::WriteAt(off_t position, const void* buffer, size_t size)
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	if (buffer == nullptr) {
+		return B_BAD_VALUE;
+	}
+	return move_bytes(size, [&](size_t done) {
+		return pwrite(Descriptor(), static_cast<const char*>(buffer) + done, size - done,
+			position + static_cast<off_t>(done));
+	});
+}
+
+
+off_t
+BFile::Seek(off_t offset, uint32 mode)
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	if (mode > SEEK_END) {
+		return B_BAD_VALUE;
+	}
+	const off_t position = lseek(Descriptor(), offset, static_cast<int>(mode));
+	return position < 0 ? status_of_errno(errno) : position;
+}
+
+
+off_t
+BFile::Position() const
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	const off_t position = lseek(Descriptor(), 0, SEEK_CUR);
+	return position < 0 ? status_of_errno(errno) : position;
+}
+
+
+status_t
+BFile::SetSize(off_t size)
+{
+	if (InitCheck() != B_OK) {
+		return B_NO_INIT;
+	}
+	int result = 0;
+	do {
+		result = ftruncate(Descriptor(), size);
+	} while (result != 0 && errno == EINTR);
+	return result == 0 ? B_OK : status_of_errno(errno);
+}
+
+
+status_t
+BFile::GetSize(off_t* size) const
+{
+	return BStatable::GetSize(size);
+}
+
+
+status_t
+BFile::OpenFile(int from, const char* path, uint32 openMode)
+{
+	// Without O_NONBLOCK a named pipe would hold up the program until somebody opens its other end.
+	const uint32 flags = (openMode & kOpenModes) | O_NONBLOCK | O_NOCTTY;
+	const status_t status = Open(from, path, static_cast<int>(flags));
+	if (status == B_OK && IsDirectory()) {
+		return Fail(B_IS_A_DIRECTORY);
+	}
+	return status;
+}

@@ -1,0 +1,180 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+#include "app/kernix.h"
+
+#include "app/kernixview.h"
+#include "app/kernixwindow.h"
+#include "font/globals.h"
+#include "font/ttf.h"
+#include <AppDefs.h>
+#include <AppFileInfo.h>
+#include <cstdio>
+#include <Directory.h>
+#include <Entry.h>
+#include <File.h>
+#include <Message.h>
+#include <Messenger.h>
+
+
+kernix::kernix()
+	: BApplication("application/x-vnd.Tarn-kernix"),
+	  window(new kernixwindow(BRect(100, 100, 499, 399)))
+{
+	fpanel = nullptr;
+}
+
+
+kernix::~kernix()
+{
+	kernixview* view = window->workview;
+	// A window that quit has let go of it already.
+	if (view->Window() != nullptr)
+		window->RemoveChild(view);
+	// A view destroys its children, and the panels belong to the font.
+	if (curttf != nullptr)
+		curttf->reset_view(view);
+	delete view;
+	window->workview = nullptr;
+}
+
+
+void
+kernix::MessageReceived(BMessage* message)
+{
+	switch (message->what) {
+		case B_SAVE_REQUESTED:
+			save_request(message);
+			fpanel = nullptr;
+			break;
+		case B_SIMPLE_DATA:
+			load_first(message);
+			break;
+		case B_CANCEL:
+			fpanel = nullptr;
+			break;
+		default:
+			BApplication::MessageReceived(message);
+	}
+}
+
+
+void
+kernix::RefsReceived(BMessage* message)
+{
+	entry_ref ref;
+	if (message->FindRef("refs", &ref) == B_OK)
+		load(ref);
+	fpanel = nullptr;
+}
+
+
+bool
+kernix::load(entry_ref& ref)
+{
+	printf("kernix:load\n");
+	ttf* font = new ttf;
+	if (!replace(font)) {
+		delete font;
+		return true;
+	}
+	BFile file(&ref, B_READ_ONLY);
+	// A font that cannot be read stays, empty.
+	if (font->load(file) != 0)
+		return true;
+	handshake();
+	return false;
+}
+
+
+bool
+kernix::save(entry_ref& directory, const char* name)
+{
+	printf("kernix:save\n");
+	// Held while the bytes are written, so that no edit tears the file.
+	if (!window->Lock())
+		return true;
+	bool failed = write(directory, name);
+	window->Unlock();
+	return failed;
+}
+
+
+void
+kernix::clear()
+{
+	replace(nullptr);
+}
+
+
+// Puts font, or none, in the place of the open one. False, with nothing changed, when the window
+// has gone.
+bool
+kernix::replace(ttf* font)
+{
+	if (!window->Lock())
+		return false;
+	if (curttf != nullptr) {
+		window->workview->clr();
+		delete curttf;
+	}
+	curttf = font;
+	window->Unlock();
+	return true;
+}
+
+
+// Has the work view build the display of the open font and waits until it has.
+void
+kernix::handshake()
+{
+	canvasok = 0;
+	BMessage init = init_message(*curttf);
+	// A window that quits in the meantime sets canvasok too; one that has gone takes no message.
+	if (BMessenger(window->workview).SendMessage(&init) == B_OK)
+		canvasok.wait(0);
+}
+
+
+bool
+kernix::write(entry_ref& directory, const char* name)
+{
+	// Asked before the file is created: creating empties the one that is there.
+	if (curttf == nullptr || curttf->empty())
+		return true;
+	BFile file;
+	BDirectory(&directory).CreateFile(name, &file, false);
+	if (curttf->save(file) != 0)
+		return true;
+	BAppFileInfo(&file).SetType("application/x-truetype");
+	return false;
+}
+
+
+void
+kernix::save_request(const BMessage* message)
+{
+	if (canvas == BRect(0, 0, 0, 0))
+		return;
+	entry_ref directory;
+	const char* name;
+	if (message->FindRef("directory", &directory) == B_OK
+		&& message->FindString("name", &name) == B_OK)
+		save(directory, name);
+}
+
+
+// Of several dropped files the first that is a font.
+void
+kernix::load_first(const BMessage* message)
+{
+	type_code type;
+	int32 count;
+	if (message->GetInfo("refs", &type, &count) != B_OK)
+		return;
+	for (int32 i = 0; i < count; i++) {
+		entry_ref ref;
+		if (message->FindRef("refs", i, &ref) == B_OK && !load(ref))
+			break;
+	}
+}
