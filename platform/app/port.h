@@ -12,30 +12,30 @@
 
 namespace kits {
 
-/** Handler token of a message for whatever handler the looper prefers when it is dispatched. */
+// Handler token of a message for whatever handler the looper prefers when it is dispatched.
 constexpr int32 preferred_handler = -1;
 constexpr int32 no_token = -2;
 
-/** A message on its way and the token of the handler that it is for. */
+// A message on its way and the token of the handler that it is for.
 struct parcel {
 	std::unique_ptr<BMessage> message;
 	int32 handler = no_token;
 };
 
-/** The queue of one looper. Outlives the looper while somebody still posts to it; a closed port
-	takes nothing. Each parcel counts as activity until its receiver says that it is done. */
+// The queue of one looper. Outlives the looper while somebody still posts to it; a closed port
+// takes nothing. Each parcel counts as activity until its receiver says that it is done.
 class port {
 public:
 	~port();
 
-	/** False when the port is closed. Never blocks for long. */
+	// False when the port is closed. Never blocks for long.
 	bool post(std::unique_ptr<BMessage> message, int32 handler);
-	/** As post(), but takes the place of the last parcel if that is a pointer move too and nothing
-		is held in either: while no button is down only the latest position matters. */
+	// As post(), but takes the place of the last parcel if that is a pointer move too and nothing
+	// is held in either: while no button is down only the latest position matters.
 	bool post_move(std::unique_ptr<BMessage> message, int32 handler);
-	/** Waits for the next parcel. One reader. */
+	// Waits for the next parcel. One reader.
 	parcel next();
-	/** Drops what is queued and everything that comes. */
+	// Drops what is queued and everything that comes.
 	void close();
 
 private:

@@ -8,8 +8,8 @@
 
 namespace kits {
 
-/** B_REFS_RECEIVED with a reference for each argument of this process that names something that
-	exists, in order; without a field when there is none. */
+// B_REFS_RECEIVED with a reference for each argument of this process that names something that
+// exists, in order; without a field when there is none.
 BMessage refs_of_start_arguments();
 
 }

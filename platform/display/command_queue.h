@@ -14,18 +14,18 @@
 
 namespace kits {
 
-/** Commands on their way to the display thread. The queue is its own, not the event loop's, so
-	that it can be drained with a time budget: without one, painting starves under a flood. */
+// Commands on their way to the display thread. The queue is its own, not the event loop's, so
+// that it can be drained with a time budget: without one, painting starves under a flood.
 class command_queue : public QObject {
 public:
 	void post(display::command work);
-	/** Carries out everything queued. */
+	// Carries out everything queued.
 	void drain();
 	bool event(QEvent* event) override;
 
 private:
 	bool _Next(display::command& work);
-	/** Works for one budget, then lets the event loop have its turn. */
+	// Works for one budget, then lets the event loop have its turn.
 	void _Work();
 	void _Wake();
 

@@ -27,7 +27,7 @@ std::thread::id display_thread;
 QString* first_complaint = nullptr;
 
 
-/** Qt aborts when it finds no display. This turns that into one line and a plain end. */
+// Qt aborts when it finds no display. This turns that into one line and a plain end.
 void
 end_without_display(QtMsgType type, const QMessageLogContext&, const QString& text)
 {

@@ -8,8 +8,8 @@
 
 namespace kits {
 
-/** The screen font in the given size (pixels). Full hinting and grey edges, so that text has the
-	same pixels on every display. Any thread. */
+// The screen font in the given size (pixels). Full hinting and grey edges, so that text has the
+// same pixels on every display. Any thread.
 QFont screen_font(float size, bool bold);
 
 }

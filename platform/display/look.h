@@ -8,8 +8,8 @@ class QApplication;
 
 namespace kits {
 
-/** One look on every desktop, so that layouts given in pixels fit: a style of our own measures,
-	a light palette, the plain font. */
+// One look on every desktop, so that layouts given in pixels fit: a style of our own measures,
+// a light palette, the plain font.
 void set_look(QApplication& application);
 
 }

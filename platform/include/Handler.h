@@ -12,17 +12,17 @@
 class BLooper;
 class BMessage;
 
-/** Something that messages can be sent to. Belongs to one looper at a time, whose lock guards it. */
+// Something that messages can be sent to. Belongs to one looper at a time, whose lock guards it.
 class BHandler : public BArchivable {
 public:
 	explicit BHandler(const char* name = NULL);
-	/** Leaves its looper; messages still queued for it are dropped. */
+	// Leaves its looper; messages still queued for it are dropped.
 	~BHandler() override;
 	BHandler(const BHandler&) = delete;
 	BHandler& operator=(const BHandler&) = delete;
 
-	/** The base passes a message it does not know to the next handler; at the end of the chain it
-		is dropped. */
+	// The base passes a message it does not know to the next handler; at the end of the chain it
+	// is dropped.
 	virtual void MessageReceived(BMessage* message);
 
 	BLooper* Looper() const;

@@ -17,12 +17,12 @@
 
 class BHandler;
 
-/** A code and named, typed fields. Each field holds one or more values of one type, in the order
-	they were added. A value class: copies are deep and share nothing, so a message may be built in
-	one thread and sent to another.
-
-	Types are strict: an int16 field is not found by FindInt32(). A failed Find..() sets its output
-	to zero or empty, as the platform does; read into a local where an old value must survive. */
+// A code and named, typed fields. Each field holds one or more values of one type, in the order
+// they were added. A value class: copies are deep and share nothing, so a message may be built in
+// one thread and sent to another.
+//
+// Types are strict: an int16 field is not found by FindInt32(). A failed Find..() sets its output
+// to zero or empty, as the platform does; read into a local where an old value must survive.
 class BMessage {
 public:
 	uint32 what;
@@ -42,9 +42,9 @@ public:
 	status_t AddDouble(const char* name, double value);
 	status_t AddPoint(const char* name, BPoint value);
 	status_t AddRect(const char* name, BRect value);
-	/** Copies the text. A null pointer is B_BAD_VALUE. */
+	// Copies the text. A null pointer is B_BAD_VALUE.
 	status_t AddString(const char* name, const char* value);
-	/** The pointer only; what it points to stays its owner's. */
+	// The pointer only; what it points to stays its owner's.
 	status_t AddPointer(const char* name, const void* value);
 	status_t AddRef(const char* name, const entry_ref* value);
 	status_t AddMessenger(const char* name, BMessenger value);
@@ -68,7 +68,7 @@ public:
 	status_t FindPoint(const char* name, int32 index, BPoint* value) const;
 	status_t FindRect(const char* name, BRect* value) const;
 	status_t FindRect(const char* name, int32 index, BRect* value) const;
-	/** The text belongs to the message: valid until the message changes or goes. */
+	// The text belongs to the message: valid until the message changes or goes.
 	status_t FindString(const char* name, const char** value) const;
 	status_t FindString(const char* name, int32 index, const char** value) const;
 	status_t FindPointer(const char* name, void** value) const;
@@ -80,7 +80,7 @@ public:
 	status_t FindMessage(const char* name, BMessage* value) const;
 	status_t FindMessage(const char* name, int32 index, BMessage* value) const;
 
-	/** Short forms: the value, or zero, false, empty or null when it is missing. */
+	// Short forms: the value, or zero, false, empty or null when it is missing.
 	int8 FindInt8(const char* name, int32 index = 0) const;
 	int16 FindInt16(const char* name, int32 index = 0) const;
 	int32 FindInt32(const char* name, int32 index = 0) const;
@@ -105,18 +105,18 @@ public:
 	bool HasRef(const char* name, int32 index = 0) const;
 	bool HasMessage(const char* name, int32 index = 0) const;
 
-	/** Type and number of values of one field; *count is 0 on failure. Either may be null. */
+	// Type and number of values of one field; *count is 0 on failure. Either may be null.
 	status_t GetInfo(const char* name, type_code* type, int32* count = NULL) const;
 	status_t RemoveName(const char* name);
 	status_t MakeEmpty();
 	bool IsEmpty() const;
 
-	/** Where a reply goes; invalid when the sender named nobody. */
+	// Where a reply goes; invalid when the sender named nobody.
 	BMessenger ReturnAddress() const;
 	status_t SendReply(uint32 command, BHandler* replyTo = NULL);
 	status_t SendReply(BMessage* reply, BHandler* replyTo = NULL);
 
-	/** True for a message that came by drag and drop; the point is in screen coordinates. */
+	// True for a message that came by drag and drop; the point is in screen coordinates.
 	bool WasDropped() const;
 	BPoint DropPoint() const;
 

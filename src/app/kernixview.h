@@ -12,12 +12,12 @@ class BMessage;
 class kernixwindow;
 class ttf;
 
-/** The 'init' message for a font: "bounds" is its design box moved to the origin, y downward. */
+// The 'init' message for a font: "bounds" is its design box moved to the origin, y downward.
 BMessage init_message(const ttf& font);
 
-/** The large area of the window: holds the panels of the open font as its children and shows one of
-	them, or the title card while there is none. The menu's "Open" and "Save as" and dropped files
-	arrive here. Runs in the window's thread. */
+// The large area of the window: holds the panels of the open font as its children and shows one of
+// them, or the title card while there is none. The menu's "Open" and "Save as" and dropped files
+// arrive here. Runs in the window's thread.
 class kernixview : public BView {
 public:
 	explicit kernixview(BRect frame);
@@ -27,10 +27,10 @@ public:
 	void AttachedToWindow() override;
 	void Draw(BRect updateRect) override;
 
-	/** Builds the display of the open font, all panels hidden, and reports it done (canvasok). */
+	// Builds the display of the open font, all panels hidden, and reports it done (canvasok).
 	void init();
-	/** Lets go of the open font's panels, before it is destroyed. Also in the application's thread
-		with the window locked; a view that the window has let go of does the same. */
+	// Lets go of the open font's panels, before it is destroyed. Also in the application's thread
+	// with the window locked; a view that the window has let go of does the same.
 	void clr();
 
 private:
@@ -39,7 +39,7 @@ private:
 	void choose(uint32 tag);
 	void scroll(BView* target);
 
-	/** The latest file panel. When the application clears fpanel, this one has answered. */
+	// The latest file panel. When the application clears fpanel, this one has answered.
 	std::unique_ptr<BFilePanel> panel;
 };
 

@@ -9,8 +9,8 @@
 
 class BBitmap;
 
-/** The strip that lists the font's tables by tag; a click on one asks the work view for its panel.
-	Drawn from an off-screen image that changes with the list. Runs in the window's thread. */
+// The strip that lists the font's tables by tag; a click on one asks the work view for its panel.
+// Drawn from an off-screen image that changes with the list. Runs in the window's thread.
 class selectview : public BView {
 public:
 	explicit selectview(BRect frame);
@@ -21,7 +21,7 @@ public:
 	void Draw(BRect updateRect) override;
 	void MouseDown(BPoint where) override;
 
-	/** Repaints the image and shows it at once; nothing before the view was attached. */
+	// Repaints the image and shows it at once; nothing before the view was attached.
 	void redraw();
 
 	enum { max_tags = 32 };

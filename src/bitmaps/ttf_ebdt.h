@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The embedded bitmap data, EBDT: the pixels, found through EBLC. */
+// The embedded bitmap data, EBDT: the pixels, found through EBLC.
 class ttf_ebdt : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_ebdt(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The embedded bitmap location, EBLC: which sizes there are and where each bitmap stands. */
+// The embedded bitmap location, EBLC: which sizes there are and where each bitmap stands.
 class ttf_eblc : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_eblc(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

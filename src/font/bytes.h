@@ -62,13 +62,13 @@ put64(uint8* p, uint64 value)
 }
 
 
-/** A stretch of table bytes, borrowed. Reading outside it gives 0, as the missing tail of a short
-	file does. */
+// A stretch of table bytes, borrowed. Reading outside it gives 0, as the missing tail of a short
+// file does.
 struct bytes {
 	const uint8* at;
 	uint32 len;
 
-	/** Whether n bytes from off on lie inside; arranged so that no sum can overflow. */
+	// Whether n bytes from off on lie inside; arranged so that no sum can overflow.
 	bool has(uint32 off, uint32 n) const { return off <= len && n <= len - off; }
 
 	uint8 u8(uint32 off) const { return has(off, 1) ? at[off] : 0; }
@@ -79,8 +79,8 @@ struct bytes {
 };
 
 
-/** The sum, modulo 2^32, of count big-endian 32-bit words. The caller has checked that they are
-	there. */
+// The sum, modulo 2^32, of count big-endian 32-bit words. The caller has checked that they are
+// there.
 inline uint32
 sum_words(const uint8* p, size_t count)
 {

@@ -10,24 +10,24 @@
 class BFilePanel;
 class ttf;
 
-/** The open font, or null. Owned by the application, which alone creates, replaces and destroys it,
-	always with the main window locked and the work view cleared. The window's thread may read it
-	whenever it runs; the application's thread may read it without the lock, being its only writer.
-	Still reachable, and not destroyed, when the program ends. */
+// The open font, or null. Owned by the application, which alone creates, replaces and destroys it,
+// always with the main window locked and the work view cleared. The window's thread may read it
+// whenever it runs; the application's thread may read it without the lock, being its only writer.
+// Still reachable, and not destroyed, when the program ends.
 extern ttf* curttf;
 
-/** The bounds of the canvas of the font on display; all zero until the first one is. Written in the
-	window's thread while 'init' is handled; the application reads it once canvasok has told that
-	this is done. */
+// The bounds of the canvas of the font on display; all zero until the first one is. Written in the
+// window's thread while 'init' is handled; the application reads it once canvasok has told that
+// this is done.
 extern BRect canvas;
 
-/** The handshake for a new font: the application sets it to 0, sends 'init' and waits; the window's
-	thread sets it to 1 and notifies when the display is built, or when the window quits and there
-	will be none. Whoever sets it has set canvas before. */
+// The handshake for a new font: the application sets it to 0, sends 'init' and waits; the window's
+// thread sets it to 1 and notifies when the display is built, or when the window quits and there
+// will be none. Whoever sets it has set canvas before.
 extern std::atomic<unsigned char> canvasok;
 
-/** The file panel on the screen, or null. Set by the work view, which owns the panel; set back to
-	null by the application when the panel has answered. Never used to reach the panel. */
+// The file panel on the screen, or null. Set by the work view, which owns the panel; set back to
+// null by the application when the panel has answered. Never used to reach the panel.
 extern std::atomic<BFilePanel*> fpanel;
 
 #endif

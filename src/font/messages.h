@@ -6,34 +6,34 @@
 
 #include <SupportDefs.h>
 
-/** Every message of the program's own: who sends it to whom, and its fields.
-
-	Of the platform's messages these carry the document's life as well:
-	B_SIMPLE_DATA 'DATA': a drop, to the work view and from there to the application; "refs".
-	B_REFS_RECEIVED: the open panel or the desktop, to the application; "refs".
-	B_SAVE_REQUESTED 'SAVE': the save panel, to the application; "directory" (entry reference),
-	"name" (string).
-	B_CANCEL: a file panel closed without a choice, to the application. */
+// Every message of the program's own: who sends it to whom, and its fields.
+//
+// Of the platform's messages these carry the document's life as well:
+// B_SIMPLE_DATA 'DATA': a drop, to the work view and from there to the application; "refs".
+// B_REFS_RECEIVED: the open panel or the desktop, to the application; "refs".
+// B_SAVE_REQUESTED 'SAVE': the save panel, to the application; "directory" (entry reference),
+// "name" (string).
+// B_CANCEL: a file panel closed without a choice, to the application.
 enum : uint32 {
-	/** Menu "New" to the application. No fields. */
+	// Menu "New" to the application. No fields.
 	msg_new = 'fine',
 
-	/** Menu "Open" to the work view. No fields. */
+	// Menu "Open" to the work view. No fields.
 	msg_open = 'fiop',
 
-	/** Menu "Save as" to the work view. No fields. */
+	// Menu "Save as" to the work view. No fields.
 	msg_save_as = 'finw',
 
-	/** The application to the work view: build the display of a new font. "bounds" (BRect): the
-		font's design box moved to the origin, font units, height downward. */
+	// The application to the work view: build the display of a new font. "bounds" (BRect): the
+	// font's design box moved to the origin, font units, height downward.
 	msg_init = 'init',
 
-	/** The work view to the selector: the font's tables. "table" (int32, repeated): their tags in
-		directory order; none clears the list. */
+	// The work view to the selector: the font's tables. "table" (int32, repeated): their tags in
+	// directory order; none clears the list.
 	msg_tables = 'tset',
 
-	/** The selector to the work view: show this table's panel. The work view to the selector:
-		highlight this tag. "table" (int32): the tag. */
+	// The selector to the work view: show this table's panel. The work view to the selector:
+	// highlight this tag. "table" (int32): the tag.
 	msg_table = 'tsel'
 };
 

@@ -24,58 +24,58 @@ class ttf_name;
 class ttf_os2;
 class ttf_post;
 
-/** The font in memory: the file's offset table and directory as they stand in the file, and one
-	object per table. Tables keep their bytes in file form, so what nobody models passes through.
-
-	No lock of its own. Loaded in the application's thread while nothing of it is shown; read and
-	edited in the window's thread while it is; saved in the application's thread with the window
-	locked. */
+// The font in memory: the file's offset table and directory as they stand in the file, and one
+// object per table. Tables keep their bytes in file form, so what nobody models passes through.
+//
+// No lock of its own. Loaded in the application's thread while nothing of it is shown; read and
+// edited in the window's thread while it is; saved in the application's thread with the window
+// locked.
 class ttf {
 public:
-	/** Empty: every field null. */
+	// Empty: every field null.
 	ttf();
-	/** Destroys the tables, which must have been detached (reset_view). */
+	// Destroys the tables, which must have been detached (reset_view).
 	~ttf();
 	ttf(const ttf&) = delete;
 	ttf& operator=(const ttf&) = delete;
 
-	/** Reads a TrueType file into an empty font: 0, or 1 with the font empty again. Refused are a
-		version other than 1.0, a directory cut short, a font without cmap, more than sixteen tables
-		that are not modelled, and lengths out of all proportion to the file. A table that runs past
-		the end of the file keeps what could be read and zeros after it. Stored checksums are not
-		examined. */
+	// Reads a TrueType file into an empty font: 0, or 1 with the font empty again. Refused are a
+	// version other than 1.0, a directory cut short, a font without cmap, more than sixteen tables
+	// that are not modelled, and lengths out of all proportion to the file. A table that runs past
+	// the end of the file keeps what could be read and zeros after it. Stored checksums are not
+	// examined.
 	int load(BFile& file);
 
-	/** Writes the font, in the order of its directory: 0, or 1 with nothing written for a font
-		without tables. Stamps the dates and stores fresh checksums and places in head and in the
-		directory in memory too; its search fields stay as they were loaded. Failing writes go
-		unnoticed. */
+	// Writes the font, in the order of its directory: 0, or 1 with nothing written for a font
+	// without tables. Stamps the dates and stores fresh checksums and places in head and in the
+	// directory in memory too; its search fields stay as they were loaded. Failing writes go
+	// unnoticed.
 	int save(BFile& file);
 
-	/** The design box as head tells it: left xMin, top yMax, right xMax, bottom yMin, font units.
-		Without head the box that a new font has. */
+	// The design box as head tells it: left xMin, top yMax, right xMax, bottom yMin, font units.
+	// Without head the box that a new font has.
 	BRect bounds() const;
 
-	/** The tags in directory order. *count is the room in tags, then the number of tags; -1 with
-		nothing changed when they do not fit, else 0. */
+	// The tags in directory order. *count is the room in tags, then the number of tags; -1 with
+	// nothing changed when they do not fit, else 0.
 	int get_tables(int* count, unsigned long* tags) const;
 
-	/** No table to save: nothing was loaded, or the load failed. */
+	// No table to save: nothing was loaded, or the load failed.
 	bool empty() const;
 
-	/** Makes every panel a hidden child of parent. loca and the raw tables have none. Window's
-		thread, or its lock. */
+	// Makes every panel a hidden child of parent. loca and the raw tables have none. Window's
+	// thread, or its lock.
 	void set_view(BView* parent);
-	/** Takes the panels out of parent again; none is destroyed. Window's thread, or its lock, or no
-		window at all. */
+	// Takes the panels out of parent again; none is destroyed. Window's thread, or its lock, or no
+	// window at all.
 	void reset_view(BView* parent);
 
 	enum { max_raw = 16 };
 
-	/** Header and directory in file form, 12 + 16 * numTables bytes. Owned. */
+	// Header and directory in file form, 12 + 16 * numTables bytes. Owned.
 	unsigned char* dir;
 
-	/** Owned; null when the font has no such table. */
+	// Owned; null when the font has no such table.
 	ttf_os2* os2;
 	ttf_cmap* cmap;
 	ttf_glyf* glyf;
@@ -86,7 +86,7 @@ public:
 	ttf_maxp* maxp;
 	ttf_name* name;
 	ttf_post* post;
-	/** Tables of other tags, from the first slot on in directory order. */
+	// Tables of other tags, from the first slot on in directory order.
 	ttf_table* rawtables[max_raw];
 	ttf_gasp* gasp;
 	ttf_ebdt* ebdt;
@@ -95,7 +95,7 @@ public:
 private:
 	uint32 numtables() const;
 	unsigned char* entry(uint32 index) const;
-	/** The object of a modelled tag, else null. */
+	// The object of a modelled tag, else null.
 	ttf_table* find(uint32 tag) const;
 	bool load_dir(BFile& file);
 	bool in_proportion(BFile& file) const;

@@ -6,11 +6,11 @@
 
 #include "font/ttf_table.h"
 
-/** The horizontal header, hhea: the line metrics of the font and the number of full records in
-	hmtx. */
+// The horizontal header, hhea: the line metrics of the font and the number of full records in
+// hmtx.
 class ttf_hhea : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_hhea(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

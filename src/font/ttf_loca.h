@@ -6,11 +6,11 @@
 
 #include "font/ttf_table.h"
 
-/** The index to location, loca: where each glyph's outline starts in glyf. Without a panel:
-	never attached. */
+// The index to location, loca: where each glyph's outline starts in glyf. Without a panel:
+// never attached.
 class ttf_loca : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_loca(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The maximum profile, maxp: the glyph count and the limits that a rasteriser reserves for. */
+// The maximum profile, maxp: the glyph count and the limits that a rasteriser reserves for.
 class ttf_maxp : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_maxp(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The glyph data, glyf: one outline record after the other, found through loca. */
+// The glyph data, glyf: one outline record after the other, found through loca.
 class ttf_glyf : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_glyf(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

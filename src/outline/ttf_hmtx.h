@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The horizontal metrics, hmtx: advance width and left side bearing of each glyph. */
+// The horizontal metrics, hmtx: advance width and left side bearing of each glyph.
 class ttf_hmtx : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_hmtx(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The character map, cmap: from character codes to glyphs. No font opens without one. */
+// The character map, cmap: from character codes to glyphs. No font opens without one.
 class ttf_cmap : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_cmap(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

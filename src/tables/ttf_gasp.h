@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The grid-fitting and scan-conversion procedure, gasp: how to render at which size. */
+// The grid-fitting and scan-conversion procedure, gasp: how to render at which size.
 class ttf_gasp : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_gasp(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

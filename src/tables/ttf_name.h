@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The naming table, name: the font's names, by platform, encoding, language and kind. */
+// The naming table, name: the font's names, by platform, encoding, language and kind.
 class ttf_name : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_name(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The OS/2 table: weight, class, ranges and line metrics as other systems want them. */
+// The OS/2 table: weight, class, ranges and line metrics as other systems want them.
 class ttf_os2 : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_os2(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

@@ -6,10 +6,10 @@
 
 #include "font/ttf_table.h"
 
-/** The PostScript information, post: italic angle, underline, memory use. */
+// The PostScript information, post: italic angle, underline, memory use.
 class ttf_post : public ttf_table {
 public:
-	/** As for every table: takes the buffer over. */
+	// As for every table: takes the buffer over.
 	ttf_post(ttf* font, unsigned char* buffer, unsigned long size);
 };
 

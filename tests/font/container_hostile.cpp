@@ -8,6 +8,7 @@
 #include "font/ttf_head.h"
 #include "support/expected_save.h"
 #include "support/font_file.h"
+#include "support/live_handlers.h"
 #include "support/opened.h"
 #include "support/sfnt.h"
 #include "support/temp_files.h"
@@ -20,8 +21,11 @@ static testing::AssertionResult
 refused(const octets& file)
 {
 	ttf font;
+	live_handlers tables;
 	if (int answer = loaded(font, file); answer != 1)
 		return testing::AssertionFailure() << "load answered " << answer;
+	if (tables.count() != 0)
+		return testing::AssertionFailure() << tables.count() << " tables stayed";
 	temp_file on_disk(hex("01 02 03"));
 	BFile target(on_disk.path().c_str(), B_READ_WRITE);
 	if (int answer = font.save(target); answer != 1)
@@ -234,6 +238,19 @@ TEST(hostile_font, answers_for_two_heads_with_the_later)
 	EXPECT_EQ(font->head->length, 20u);
 	EXPECT_EQ(font->head->unitsperem(), 2048);
 	EXPECT_TRUE(survives(file));
+}
+
+
+TEST(hostile_font, destroys_the_earlier_of_two_objects)
+{
+	font_file file = tiny_font();
+	for (const std::string& tag : sfnt(file).tags())
+		file = file.again(tag, "00 00 00 00");
+	for (const char* tag : {"OS/2", "name", "post", "gasp", "EBDT", "EBLC"})
+		file = file.again(tag, "00").again(tag, "00");
+	live_handlers tables;
+	auto font = opened(file);
+	EXPECT_EQ(tables.count(), 13);
 }
 
 

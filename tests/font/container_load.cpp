@@ -18,6 +18,7 @@
 #include "outline/ttf_glyf.h"
 #include "outline/ttf_hmtx.h"
 #include "support/font_file.h"
+#include "support/live_handlers.h"
 #include "support/opened.h"
 #include "support/temp_files.h"
 #include "tables/ttf_cmap.h"
@@ -193,6 +194,16 @@ TEST(container_load, says_what_it_reads)
 	loaded(font, raw);
 	EXPECT_EQ(testing::internal::GetCapturedStdout(),
 		"ttf:load\nname=[cmap]\nname=[OS/2]\nname=[cvt ]\n");
+}
+
+
+TEST(container, destroys_every_table_with_itself)
+{
+	live_handlers tables;
+	auto font = opened(full_font().with("kern", "00").with("prep", "00"));
+	EXPECT_EQ(tables.count(), 15);
+	font.reset();
+	EXPECT_EQ(tables.count(), 0);
 }
 
 

@@ -206,12 +206,13 @@ static constexpr std::string_view tiny_cmap =
 	"0041 ffff"            // starts
 	"ffc0 0001 0000 0000"; // differences (41 is glyph 1), no arrays
 
-static constexpr std::string_view tiny_glyf = "0001 0000 0000 01ff 01ff" // one contour, its box
-											  "0002 0000"      // last point, no instructions
-											  "01 01 01"       // three points on the curve
-											  "0000 01ff ff00" // x: 0 511 255
-											  "0000 0000 01ff" // y: 0 0 511
-											  "00 00 00";
+static constexpr std::string_view tiny_glyf =
+	"0001 0000 0000 01ff 01ff" // one contour, its box: (0, 0) to (511, 511)
+	"0002 0000"                // last point, no instructions
+	"01 01 01"                 // three points on the curve
+	"0000 01ff ff00"           // x: 0 511 255
+	"0000 0000 01ff"           // y: 0 0 511
+	"00 00 00";
 
 static constexpr std::string_view tiny_head =
 	"00010000 00010000"         // version, revision

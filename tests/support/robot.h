@@ -1,0 +1,104 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KERNIX_SUPPORT_ROBOT_H
+#define KERNIX_SUPPORT_ROBOT_H
+
+#include <Application.h>
+#include <functional>
+#include <memory>
+#include <Message.h>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <GraphicsDefs.h>
+#include <Point.h>
+#include <QImage>
+#include <Rect.h>
+#include <View.h>
+
+class BWindow;
+class QWidget;
+
+// The user of a program that runs in this process: works the pointer, the menus and the dialogs of
+// what is on the display, and looks at it. Every action returns when the program is idle again.
+// Used from a thread that is none of the program's; positions are in the window's content.
+class robot {
+public:
+	// Waits until nothing is under way in any thread: messages, repainting, display commands.
+	void settle();
+	// Waits, settling, until the condition holds; false when it does not within ten seconds. For
+	// what the display's own helpers do in their time.
+	bool wait_for(const std::function<bool()>& condition);
+
+	// Which of the windows on the screen is meant; with one there, that one.
+	void use_window(const std::string& title) { fTitle = title; }
+	bool window_is_shown();
+	std::string window_title();
+	// Content size in pixels.
+	BPoint window_size();
+
+	void press(BPoint where, int32 button = B_PRIMARY_MOUSE_BUTTON, int32 modifiers = 0);
+	void move(BPoint where, int32 modifiers = 0);
+	void release(BPoint where, int32 button = B_PRIMARY_MOUSE_BUTTON, int32 modifiers = 0);
+	void click(BPoint where, int32 button = B_PRIMARY_MOUSE_BUTTON, int32 modifiers = 0);
+	// Notches; positive is down and right.
+	void wheel(BPoint where, float down, float across = 0);
+	void resize_window(float width, float height);
+	void press_close_box();
+	void press_zoom_box();
+	// False when there is no such item.
+	bool choose_menu(const std::string& menu, const std::string& item);
+	bool menu_is_marked(const std::string& menu, const std::string& item);
+
+	// The pixels of the window as the screen has them.
+	QImage picture();
+	rgb_color pixel(BPoint where);
+	// How many pixels of the rectangle have this colour, exactly.
+	int count(BRect place, rgb_color color);
+
+	// Values of a scroll bar as its user sees them: minimum, maximum, value, page; empty for none.
+	std::vector<int> scroll_bar(orientation posture);
+	void drag_scroll_bar(orientation posture, int value);
+
+	bool panel_is_open();
+	int count_panels();
+	// Types a path, or a name, into the open panel's field and confirms it.
+	void answer_panel(const std::string& path);
+	void cancel_panel();
+	// Presses a button of a question that is shown over a panel.
+	bool press_question(const std::string& button);
+
+	// Runs on the display while everything else goes on; for looking at what is not covered above.
+	void on_display(const std::function<void()>& look);
+
+private:
+	QWidget* _Window();
+	void _Pointer(int type, BPoint where, int32 button, int32 modifiers);
+
+	std::string fTitle;
+	int32 fHeld = 0;
+};
+
+inline bool
+operator==(rgb_color a, rgb_color b)
+{
+	return a.red == b.red && a.green == b.green && a.blue == b.blue;
+}
+
+std::ostream& operator<<(std::ostream& out, rgb_color color);
+
+// Runs the application on this thread, the display thread, and the user on another; asks the
+// application to quit when the user has done and has not done so.
+void run_with_user(BApplication& application, const std::function<void(robot&)>& user);
+
+// The same for an application of the given class, made and destroyed around it.
+template <typename App>
+void
+with_application(const std::function<void(App&, robot&)>& user)
+{
+	App application;
+	run_with_user(application, [&](robot& hand) { user(application, hand); });
+}
+
+#endif
