@@ -87,10 +87,12 @@ int
 ttf::load(BFile& file)
 {
 	printf("ttf:load\n");
-	bool loaded = load_dir(file) && in_proportion(file);
+	off_t end = file.Seek(0, SEEK_END);
+	uint64 size = end > 0 ? (uint64)end : 0;
+	bool loaded = load_dir(file) && in_proportion(size);
 	for (uint32 i = 0; loaded && i < numtables(); i++)
 		loaded = load_table(file, entry(i));
-	if (!loaded || cmap == nullptr) {
+	if (!loaded || cmap == nullptr || !saves_in_proportion(size)) {
 		destroy();
 		return 1;
 	}
@@ -255,10 +257,8 @@ ttf::load_dir(BFile& file)
 
 
 bool
-ttf::in_proportion(BFile& file) const
+ttf::in_proportion(uint64 size) const
 {
-	off_t end = file.Seek(0, SEEK_END);
-	uint64 size = end > 0 ? (uint64)end : 0;
 	uint64 total = 0;
 	for (uint32 i = 0; i < numtables(); i++) {
 		uint32 length = get32(entry(i) + at_length);
@@ -267,6 +267,19 @@ ttf::in_proportion(BFile& file) const
 			return false;
 	}
 	return true;
+}
+
+
+// Entries of one modelled tag are each written with the last one's bytes.
+bool
+ttf::saves_in_proportion(uint64 size) const
+{
+	uint64 total = 0;
+	for (uint32 i = 0; i < numtables(); i++) {
+		ttf_table* table = find(get32(entry(i)));
+		total += table != nullptr ? table->length : 0;
+	}
+	return total <= most_shared * size + length_slack;
 }
 
 

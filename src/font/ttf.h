@@ -98,7 +98,8 @@ private:
 	// The object of a modelled tag, else null.
 	ttf_table* find(uint32 tag) const;
 	bool load_dir(BFile& file);
-	bool in_proportion(BFile& file) const;
+	bool in_proportion(uint64 size) const;
+	bool saves_in_proportion(uint64 size) const;
 	bool load_table(BFile& file, const unsigned char* record);
 	bool adopt(uint32 tag, unsigned char* buffer, uint32 size);
 	uint32 dir_sum() const;

@@ -155,6 +155,16 @@ TEST(refused_font, has_tables_that_are_together_too_long)
 }
 
 
+TEST(refused_font, would_be_saved_with_one_long_table_many_times)
+{
+	font_file file = tiny_font();
+	for (int i = 0; i < 200; i++)
+		file = file.again("post", "");
+	auto size = uint32_t(file.raw().size());
+	EXPECT_TRUE(refused(file.says_length("post", size + mebi)));
+}
+
+
 TEST(refused_font, has_a_cmap_too_long)
 {
 	EXPECT_TRUE(refused(tiny_font().says_length("cmap", 0xFFFFFFFF)));
