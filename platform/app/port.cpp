@@ -34,6 +34,8 @@ port::post(std::unique_ptr<BMessage> message, int32 handler)
 	if (fClosed)
 		return false;
 	activity::begin();
+	if (fWatcher && message->what == fWatched)
+		fWatcher();
 	fParcels.push_back({std::move(message), handler});
 	fArrived.notify_one();
 	return true;
@@ -59,6 +61,21 @@ port::_Replace(std::unique_ptr<BMessage>& message)
 		return false;
 	fParcels.back().message = std::move(message);
 	return true;
+}
+
+
+void
+port::watch(uint32 what, std::function<void()> arrived)
+{
+	std::lock_guard guard(fLock);
+	fWatched = what;
+	fWatcher = std::move(arrived);
+	for (const parcel& each : fParcels) {
+		if (fWatcher && each.message->what == what) {
+			fWatcher();
+			break;
+		}
+	}
 }
 
 

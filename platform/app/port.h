@@ -6,6 +6,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <Message.h>
 #include <mutex>
@@ -33,6 +34,9 @@ public:
 	// As post(), but takes the place of the last parcel if that is a pointer move too and nothing
 	// is held in either: while no button is down only the latest position matters.
 	bool post_move(std::unique_ptr<BMessage> message, int32 handler);
+	// Calls back whenever a message of that code is queued, at once if one is already. One watcher;
+	// null ends the watch. The callback must not post to this port.
+	void watch(uint32 what, std::function<void()> arrived);
 	// Waits for the next parcel. One reader.
 	parcel next();
 	// Drops what is queued and everything that comes.
@@ -45,6 +49,8 @@ private:
 	std::condition_variable fArrived;
 	std::deque<parcel> fParcels;
 	bool fClosed = false;
+	uint32 fWatched = 0;
+	std::function<void()> fWatcher;
 };
 
 }

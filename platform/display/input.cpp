@@ -2,13 +2,21 @@
 // SPDX-License-Identifier: MIT
 #include "display/input.h"
 
+#include "app/message_access.h"
 #include "app/port.h"
 #include "app/registry.h"
+#include "display/modifiers.h"
 
+#include <algorithm>
 #include <AppDefs.h>
+#include <Entry.h>
 #include <InterfaceDefs.h>
 #include <QApplication>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QPointingDevice>
+#include <QScreen>
+#include <QUrl>
 #include <QWidget>
 #include <View.h>
 
@@ -31,8 +39,75 @@ buttons_of(Qt::MouseButtons held)
 }
 
 
+void
+add_place(BMessage& message, const QWidget& widget, const QPointF& local, const QPointF& screen)
+{
+	QPointF where = widget.mapTo(widget.window(), local);
+	message.AddPoint("where", BPoint((float)where.x(), (float)where.y()));
+	message.AddPoint("screen_where", BPoint((float)screen.x(), (float)screen.y()));
+	message.AddInt64("when", system_time());
+}
+
+
+// One more press in time and in place continues the count; Qt itself stops at two.
 int32
-modifiers_of(Qt::KeyboardModifiers held)
+count_clicks(const QSinglePointEvent& event)
+{
+	static int32 clicks = 0;
+	static ulong last = 0;
+	static QPointF place;
+	bool again = clicks > 0
+		&& event.timestamp() - last <= (ulong)QApplication::doubleClickInterval()
+		&& (event.globalPosition() - place).manhattanLength() <= QApplication::startDragDistance();
+	clicks = again ? clicks + 1 : 1;
+	last = event.timestamp();
+	place = event.globalPosition();
+	return clicks;
+}
+
+
+std::unique_ptr<BMessage>
+pointer_message(uint32 what, const QWidget& widget, const QSinglePointEvent& event)
+{
+	auto message = std::make_unique<BMessage>(what);
+	add_place(*message, widget, event.position(), event.globalPosition());
+	message->AddInt32("buttons", buttons_of(event.buttons()));
+	message->AddInt32("modifiers", modifiers_of(event.modifiers()));
+	if (what == B_MOUSE_DOWN)
+		message->AddInt32("clicks", count_clicks(event));
+	return message;
+}
+
+
+void
+post_pointer_message(int32 looper, std::unique_ptr<BMessage> message)
+{
+	std::shared_ptr<port> messages = registry::port_of(looper);
+	if (!messages)
+		return;
+	if (message->what == B_MOUSE_MOVED)
+		messages->post_move(std::move(message), looper);
+	else
+		messages->post(std::move(message), looper);
+}
+
+
+// Where the pen is on its tablet. A tablet covers the whole desktop, so that the place on the
+// desktop tells it; Qt does not pass the tablet's own numbers on.
+BPoint
+place_on_tablet(const QTabletEvent& event)
+{
+	QRectF desktop = QGuiApplication::primaryScreen()->virtualGeometry();
+	QPointF place = event.globalPosition() - desktop.topLeft();
+	return BPoint((float)std::clamp(place.x() / desktop.width(), 0.0, 1.0),
+		(float)std::clamp(place.y() / desktop.height(), 0.0, 1.0));
+}
+
+}
+
+
+int32
+kits::modifiers_of(Qt::KeyboardModifiers held)
 {
 	int32 modifiers = 0;
 	if (held & Qt::ShiftModifier)
@@ -46,49 +121,48 @@ modifiers_of(Qt::KeyboardModifiers held)
 
 
 void
-add_place(BMessage& message, const QWidget& widget, const QPointF& local, const QPointF& screen)
+kits::post_pointer(int32 looper, uint32 what, const QWidget& widget, const QMouseEvent& event)
 {
-	QPointF where = widget.mapTo(widget.window(), local);
-	message.AddPoint("where", BPoint((float)where.x(), (float)where.y()));
-	message.AddPoint("screen_where", BPoint((float)screen.x(), (float)screen.y()));
-	message.AddInt64("when", system_time());
-}
-
-
-// Qt counts single and double presses only; the platform counts on.
-int32
-count_clicks(const QMouseEvent& event)
-{
-	static int32 clicks = 0;
-	static ulong last = 0;
-	static QPointF place;
-	bool again = event.timestamp() - last <= (ulong)QApplication::doubleClickInterval()
-		&& (event.globalPosition() - place).manhattanLength() <= QApplication::startDragDistance();
-	clicks = again ? clicks + 1 : 1;
-	last = event.timestamp();
-	place = event.globalPosition();
-	return clicks;
-}
-
+	post_pointer_message(looper, pointer_message(what, widget, event));
 }
 
 
 void
-kits::post_pointer(int32 looper, uint32 what, const QWidget& widget, const QMouseEvent& event)
+kits::post_tablet(int32 looper, uint32 what, const QWidget& widget, const QTabletEvent& event)
 {
-	auto message = std::make_unique<BMessage>(what);
-	add_place(*message, widget, event.position(), event.globalPosition());
-	message->AddInt32("buttons", buttons_of(event.buttons()));
-	message->AddInt32("modifiers", modifiers_of(event.modifiers()));
-	if (what == B_MOUSE_DOWN)
-		message->AddInt32("clicks", count_clicks(event));
-	std::shared_ptr<port> messages = registry::port_of(looper);
-	if (!messages)
+	// Degrees from upright at which a pen lies as flat as its tablet can tell.
+	constexpr float flat = 60;
+	std::unique_ptr<BMessage> message = pointer_message(what, widget, event);
+	BPoint place = place_on_tablet(event);
+	message->AddFloat("be:tablet_x", place.x);
+	message->AddFloat("be:tablet_y", place.y);
+	message->AddFloat("be:tablet_pressure", (float)event.pressure());
+	if (event.pointingDevice()->hasCapability(QInputDevice::Capability::XTilt)) {
+		message->AddFloat("be:tablet_tilt_x", std::clamp((float)event.xTilt() / flat, -1.0F, 1.0F));
+		message->AddFloat("be:tablet_tilt_y", std::clamp((float)event.yTilt() / flat, -1.0F, 1.0F));
+	}
+	bool eraser = event.pointerType() == QPointingDevice::PointerType::Eraser;
+	message->AddInt32("be:tablet_eraser", eraser ? 1 : 0);
+	post_pointer_message(looper, std::move(message));
+}
+
+
+void
+kits::post_drop(int32 looper, const QWidget& window, const QDropEvent& event)
+{
+	BMessage message(B_SIMPLE_DATA);
+	for (const QUrl& url : event.mimeData()->urls()) {
+		entry_ref ref;
+		QByteArray path = url.toLocalFile().toUtf8();
+		if (url.isLocalFile() && get_ref_for_path(path.constData(), &ref) == B_OK)
+			message.AddRef("refs", &ref);
+	}
+	if (message.IsEmpty())
 		return;
-	if (what == B_MOUSE_MOVED)
-		messages->post_move(std::move(message), looper);
-	else
-		messages->post(std::move(message), looper);
+	QPointF screen = window.mapToGlobal(event.position());
+	message_access::mark_dropped(message, BPoint((float)screen.x(), (float)screen.y()));
+	message.AddPoint(drop_field, BPoint((float)event.position().x(), (float)event.position().y()));
+	post_to(looper, message);
 }
 
 

@@ -1,18 +1,24 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
-
 #include "display/look.h"
 
+#include "display/convert.h"
 #include "display/fonts.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
+#include <QWidget>
 
 using namespace kits;
 
 
 namespace {
+
+constexpr int button_margin = 3;
+
 
 class kit_style : public QProxyStyle {
 public:
@@ -23,15 +29,25 @@ public:
 	{
 		switch (metric) {
 			case PM_ScrollBarExtent:
+			case PM_SliderThickness:
 				return 14;
 			case PM_ScrollBarSliderMin:
+			case PM_SliderControlThickness:
+			case PM_SmallIconSize:
 				return 12;
+			case PM_IndicatorWidth:
+			case PM_IndicatorHeight:
+				return 11;
+			case PM_SliderLength:
+				return 9;
+			case PM_CheckBoxLabelSpacing:
+				return 4;
+			case PM_ButtonMargin:
+				return 2;
 			case PM_MenuBarHMargin:
 			case PM_MenuBarVMargin:
 			case PM_MenuBarPanelWidth:
 				return 0;
-			case PM_SmallIconSize:
-				return 12;
 			default:
 				return QProxyStyle::pixelMetric(metric, option, widget);
 		}
@@ -40,21 +56,89 @@ public:
 	int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
 		QStyleHintReturn* data) const override
 	{
-		if (hint == SH_Widget_Animate)
+		// Alt alone is a key like others: the editor uses it.
+		if (hint == SH_Widget_Animate || hint == SH_MenuBar_AltKeyNavigation)
 			return 0;
 		return QProxyStyle::styleHint(hint, option, widget, data);
+	}
+
+	QRect subElementRect(
+		SubElement element, const QStyleOption* option, const QWidget* widget) const override
+	{
+		if (element == SE_LineEditContents)
+			return option->rect.adjusted(0, 1, 0, -1);
+		return QProxyStyle::subElementRect(element, option, widget);
+	}
+
+	void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+		const QWidget* widget) const override
+	{
+		if (element == PE_FrameLineEdit || element == PE_PanelLineEdit)
+			_DrawField(option, painter);
+		else
+			QProxyStyle::drawPrimitive(element, option, painter, widget);
+	}
+
+	void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+		const QWidget* widget) const override
+	{
+		if (element == CE_PushButtonBevel)
+			_DrawBevel(option, painter);
+		else if (element == CE_PushButtonLabel)
+			_DrawLabel(option, painter);
+		else
+			QProxyStyle::drawControl(element, option, painter, widget);
+	}
+
+private:
+	// One pixel around, so that a low field has room for its text.
+	static void _DrawField(const QStyleOption* option, QPainter* painter)
+	{
+		bool focused = option->state & State_HasFocus;
+		const QPalette& colours = option->palette;
+		painter->fillRect(option->rect, colours.base());
+		painter->setPen(focused ? colours.highlight().color() : colours.dark().color());
+		painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+	}
+
+	static void _DrawBevel(const QStyleOption* option, QPainter* painter)
+	{
+		bool down = option->state & (State_Sunken | State_On);
+		bool focused = option->state & State_HasFocus;
+		const QPalette& colours = option->palette;
+		painter->fillRect(option->rect, down ? colours.mid() : colours.light());
+		painter->setPen(focused ? colours.highlight().color() : colours.dark().color());
+		painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+	}
+
+	static void _DrawLabel(const QStyleOption* option, QPainter* painter)
+	{
+		auto* button = static_cast<const QStyleOptionButton*>(option);
+		QRect room = button->rect.adjusted(button_margin, 0, -button_margin, 0);
+		QString text = button->fontMetrics.elidedText(button->text, Qt::ElideRight, room.width());
+		bool enabled = button->state & State_Enabled;
+		painter->setPen(button->palette.color(
+			enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+		painter->drawText(room, Qt::AlignCenter | Qt::TextSingleLine, text);
 	}
 };
 
 
 QPalette
-light_palette()
+palette_of(const QColor& background)
 {
-	QPalette palette(QColor(221, 221, 226));
+	QPalette palette(background);
+	palette.setColor(QPalette::Window, background);
+	palette.setColor(QPalette::Button, background);
+	palette.setColor(QPalette::Light, background.lighter(125));
+	palette.setColor(QPalette::Midlight, background.lighter(112));
+	palette.setColor(QPalette::Mid, background.darker(125));
+	palette.setColor(QPalette::Dark, background.darker(165));
 	palette.setColor(QPalette::Base, Qt::white);
-	palette.setColor(QPalette::Text, Qt::black);
-	palette.setColor(QPalette::WindowText, Qt::black);
-	palette.setColor(QPalette::ButtonText, Qt::black);
+	for (auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+		palette.setColor(role, Qt::black);
+		palette.setColor(QPalette::Disabled, role, background.darker(200));
+	}
 	return palette;
 }
 
@@ -65,6 +149,40 @@ void
 kits::set_look(QApplication& application)
 {
 	application.setStyle(new kit_style);
-	application.setPalette(light_palette());
+	application.setPalette(palette_of(QColor(221, 221, 226)));
 	application.setFont(screen_font(12, false));
+}
+
+
+void
+kits::apply(const control_look& look, QWidget& widget)
+{
+	widget.setPalette(palette_of(to_qcolor(look.background)));
+	widget.setFont(screen_font(look.font.Size(), look.font.Face() & B_BOLD_FACE));
+	widget.setEnabled(look.enabled);
+}
+
+
+void
+kits::explain_when_elided(QWidget& widget, const QString& text, int room)
+{
+	bool fits = widget.fontMetrics().horizontalAdvance(text) <= room;
+	widget.setToolTip(fits ? QString() : text);
+}
+
+
+QFont
+kits::fitted(const QFont& font, const QString& text, int room)
+{
+	if (QFontMetrics(font).horizontalAdvance(text) <= room)
+		return font;
+	QFont narrow(font);
+	// Hinted, a narrow letter would be widened again to whole pixels.
+	narrow.setHintingPreference(QFont::PreferNoHinting);
+	for (int stretch : {92, 85, 80, 75}) {
+		narrow.setStretch(stretch);
+		if (QFontMetrics(narrow).horizontalAdvance(text) <= room)
+			break;
+	}
+	return narrow;
 }

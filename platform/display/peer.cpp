@@ -4,6 +4,7 @@
 
 #include "display/convert.h"
 #include "display/display.h"
+#include "display/focus.h"
 #include "display/view_widget.h"
 
 using namespace kits;
@@ -48,8 +49,11 @@ void
 peers::set_shown(const peer_ref& view, bool shown)
 {
 	display::post([=] {
-		if (view->widget)
-			view->widget->setVisible(shown);
+		if (!view->widget)
+			return;
+		if (!shown)
+			leave_quietly(*view->widget);
+		view->widget->setVisible(shown);
 	});
 }
 
@@ -91,7 +95,10 @@ void
 peers::destroy(const peer_ref& view)
 {
 	display::post([=] {
-		if (view->widget)
-			view->widget->deleteLater();
+		if (!view->widget)
+			return;
+		leave_quietly(*view->widget);
+		view->widget->setVisible(false);
+		view->widget->deleteLater();
 	});
 }

@@ -19,6 +19,7 @@ view_widget::view_widget(QWidget* parent, int32 looper, std::shared_ptr<front_im
 	  fFront(std::move(front))
 {
 	setMouseTracking(true);
+	setTabletTracking(true);
 	setAttribute(Qt::WA_OpaquePaintEvent);
 	setFocusPolicy(Qt::NoFocus);
 }
@@ -71,6 +72,18 @@ void
 view_widget::mouseMoveEvent(QMouseEvent* event)
 {
 	post_pointer(fLooper, B_MOUSE_MOVED, *this, *event);
+	event->accept();
+}
+
+
+// Taken too, so that no mouse event is made of it a second time.
+void
+view_widget::tabletEvent(QTabletEvent* event)
+{
+	uint32 what = event->type() == QEvent::TabletPress ? B_MOUSE_DOWN
+		: event->type() == QEvent::TabletRelease       ? B_MOUSE_UP
+													   : B_MOUSE_MOVED;
+	post_tablet(fLooper, what, *this, *event);
 	event->accept();
 }
 

@@ -21,6 +21,7 @@ protected:
 	void mouseDoubleClickEvent(QMouseEvent* event) override;
 	void mouseReleaseEvent(QMouseEvent* event) override;
 	void mouseMoveEvent(QMouseEvent* event) override;
+	void tabletEvent(QTabletEvent* event) override;
 	void wheelEvent(QWheelEvent* event) override;
 
 private:

@@ -7,13 +7,22 @@
 
 #include <AppDefs.h>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QResizeEvent>
 
 using namespace kits;
 
 
-window_widget::window_widget(int32 looper) : fLooper(looper), fRatio(devicePixelRatio())
+window_widget::window_widget(int32 looper)
+	: fLooper(looper),
+	  fRatio(devicePixelRatio()),
+	  fKeys([looper](bool down, const QKeyEvent& event, int32 repeat) {
+		  post_key(looper, down, event, repeat);
+	  })
 {
+	// The only widget that takes drops, so that they all come here with their place.
+	setAcceptDrops(true);
 	setFocusPolicy(Qt::NoFocus);
 	setMouseTracking(true);
 }
@@ -76,4 +85,42 @@ window_widget::_ReportRatio()
 	BMessage changed(ratio_changed);
 	changed.AddFloat("ratio", (float)fRatio);
 	post_to(fLooper, changed);
+}
+
+
+// Controls have first choice; what is left is the kit's.
+void
+window_widget::keyPressEvent(QKeyEvent* event)
+{
+	fKeys.press(*event);
+}
+
+
+void
+window_widget::keyReleaseEvent(QKeyEvent* event)
+{
+	fKeys.release(*event);
+}
+
+
+void
+window_widget::dragEnterEvent(QDragEnterEvent* event)
+{
+	if (event->mimeData()->hasUrls())
+		event->acceptProposedAction();
+}
+
+
+void
+window_widget::dragMoveEvent(QDragMoveEvent* event)
+{
+	event->acceptProposedAction();
+}
+
+
+void
+window_widget::dropEvent(QDropEvent* event)
+{
+	post_drop(fLooper, *this, *event);
+	event->acceptProposedAction();
 }

@@ -3,6 +3,8 @@
 #ifndef KITS_WINDOW_WIDGET_H
 #define KITS_WINDOW_WIDGET_H
 
+#include "display/key_filter.h"
+
 #include <QWidget>
 #include <SupportDefs.h>
 
@@ -20,6 +22,11 @@ protected:
 	void closeEvent(QCloseEvent* event) override;
 	void changeEvent(QEvent* event) override;
 	bool event(QEvent* event) override;
+	void keyPressEvent(QKeyEvent* event) override;
+	void keyReleaseEvent(QKeyEvent* event) override;
+	void dragEnterEvent(QDragEnterEvent* event) override;
+	void dragMoveEvent(QDragMoveEvent* event) override;
+	void dropEvent(QDropEvent* event) override;
 
 private:
 	void _ReportRatio();
@@ -27,6 +34,7 @@ private:
 	const int32 fLooper;
 	int32 fSerial = 0;
 	qreal fRatio;
+	key_filter fKeys;
 };
 
 }

@@ -69,6 +69,7 @@ protected:
 
 private:
 	friend class BMessenger;
+	friend class BAlert;
 	friend class BApplication;
 	friend class BWindow;
 	friend class BHandler;

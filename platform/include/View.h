@@ -10,6 +10,7 @@
 #include <memory>
 #include <Point.h>
 #include <Rect.h>
+#include <vector>
 
 class BBitmap;
 class BScrollBar;
@@ -131,6 +132,10 @@ public:
 	virtual void MouseDown(BPoint where);
 	virtual void MouseUp(BPoint where);
 	virtual void MouseMoved(BPoint where, uint32 transit, const BMessage* dragMessage);
+	// Of the view that has the keyboard; UTF-8, no NUL counted. A repeat calls KeyDown() again. The
+	// base lets Tab and Shift-Tab walk through the navigable views.
+	virtual void KeyDown(const char* bytes, int32 numBytes);
+	virtual void KeyUp(const char* bytes, int32 numBytes);
 
 	// Takes the keyboard, or gives it up. Does nothing while unattached.
 	virtual void MakeFocus(bool focus = true);
@@ -205,6 +210,7 @@ protected:
 
 private:
 	friend class BBitmap;
+	friend class BControl;
 	friend class BMenu;
 	friend class BMenuBar;
 	friend class BMenuItem;
@@ -235,6 +241,9 @@ private:
 	void _Publish();
 	void _UpdateTree();
 	BView* _ViewAt(BPoint where);
+	void _CollectNavigable(std::vector<BView*>& stops);
+	// False for a control that is switched off.
+	virtual bool _TakesKeyboard() const;
 	BPoint _FromWindow(BPoint where) const;
 
 	std::unique_ptr<kits::view_state> fState;

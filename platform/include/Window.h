@@ -94,8 +94,10 @@ public:
 	BView* CurrentFocus() const;
 
 private:
+	friend class BAlert;
 	friend class BApplication;
 	friend class BBitmap;
+	friend class BControl;
 	friend class BView;
 	friend struct window_access;
 
@@ -106,11 +108,17 @@ private:
 	void _Flush() override;
 	void _Deliver(BMessage* message, BHandler* handler) override;
 	void _DeliverPointer(BMessage* message);
+	void _DeliverKey(BMessage* message);
+	bool _Shortcut(const BMessage& message);
+	void _DeliverDrop(BMessage* message);
+	void _Navigate(bool forward);
 	void _SendPointer(const BMessage& message, BView* view, uint32 transit);
 	void _PointerMoved(BMessage* message, BView* under);
 	void _ResizedByUser(BMessage* message);
 	void _SetSize(float width, float height);
 	void _SetFocus(BView* view);
+	void _FollowFocus(BView* view);
+	void _TellFocus();
 	void _StartIfShown();
 	bool _HasQuit() const;
 	bool _OnScreen() const;

@@ -326,6 +326,16 @@ BView::MessageReceived(BMessage* message)
 		case B_MOUSE_WHEEL_CHANGED:
 			_Wheel(message);
 			break;
+		case B_KEY_DOWN: {
+			const char* bytes = message->FindString("bytes");
+			KeyDown(bytes, (int32)strlen(bytes));
+			break;
+		}
+		case B_KEY_UP: {
+			const char* bytes = message->FindString("bytes");
+			KeyUp(bytes, (int32)strlen(bytes));
+			break;
+		}
 		default:
 			BHandler::MessageReceived(message);
 	}
@@ -352,6 +362,21 @@ BView::MouseUp(BPoint)
 
 void
 BView::MouseMoved(BPoint, uint32, const BMessage*)
+{
+}
+
+
+void
+BView::KeyDown(const char* bytes, int32 numBytes)
+{
+	const BMessage* message = fState->window ? fState->window->CurrentMessage() : nullptr;
+	if (numBytes == 1 && bytes[0] == B_TAB && message)
+		fState->window->_Navigate(!(message->FindInt32("modifiers") & B_SHIFT_KEY));
+}
+
+
+void
+BView::KeyUp(const char*, int32)
 {
 }
 

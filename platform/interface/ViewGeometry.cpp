@@ -318,6 +318,10 @@ BView::_VisibilityChanged()
 		return;
 	if (fState->widget && fState->parent)
 		peers::set_shown(fState->widget, fState->hidden <= 0);
+	// A hidden view may have the keyboard; the display takes it up again when it shows.
+	BView* focus = fState->window->CurrentFocus();
+	if (focus && !focus->IsHidden())
+		fState->window->_TellFocus();
 	_ForgetImages();
 }
 

@@ -1,5 +1,6 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
+#include "display/field_peers.h"
 #include "interface/view_state.h"
 #include "interface/window_state.h"
 
@@ -365,9 +366,31 @@ BWindow::CurrentFocus() const
 }
 
 
+// The program moves the keyboard: the display is told.
 void
 BWindow::_SetFocus(BView* view)
 {
+	_FollowFocus(view);
+	if (fWindow->focus == view)
+		_TellFocus();
+}
+
+
+void
+BWindow::_TellFocus()
+{
+	BView* view = fWindow->focus;
+	if (fWindow->widget)
+		field_peers::focus(fWindow->widget, view ? view->fState->widget : nullptr);
+}
+
+
+// The display has moved it, or is about to. Whoever loses it may have something to send first.
+void
+BWindow::_FollowFocus(BView* view)
+{
+	if (fWindow->focus == view)
+		return;
 	if (BView* before = fWindow->focus) {
 		fWindow->focus = nullptr;
 		SetPreferredHandler(nullptr);

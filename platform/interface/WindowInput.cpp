@@ -1,11 +1,16 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 // What reaches a window from the display, and which view it is for.
+#include "app/message_access.h"
 #include "app/registry.h"
+#include "display/field_peers.h"
+#include "display/input.h"
 #include "interface/view_state.h"
 #include "interface/window_state.h"
 
+#include <algorithm>
 #include <AppDefs.h>
+#include <Application.h>
 #include <cmath>
 #include <Message.h>
 #include <Window.h>
@@ -23,6 +28,16 @@ BWindow::_Deliver(BMessage* message, BHandler* handler)
 		case B_MOUSE_MOVED:
 		case B_MOUSE_WHEEL_CHANGED:
 			_DeliverPointer(message);
+			break;
+		case B_KEY_DOWN:
+		case B_KEY_UP:
+		case B_UNMAPPED_KEY_DOWN:
+		case B_UNMAPPED_KEY_UP:
+		case B_MODIFIERS_CHANGED:
+			_DeliverKey(message);
+			break;
+		case B_SIMPLE_DATA:
+			_DeliverDrop(message);
 			break;
 		default:
 			BLooper::_Deliver(message, handler);
@@ -50,6 +65,9 @@ BWindow::DispatchMessage(BMessage* message, BHandler* handler)
 		case ratio_changed:
 			fWindow->ratio = message->FindFloat("ratio");
 			fWindow->root->_ForgetImages();
+			break;
+		case focus_walks:
+			_Navigate(message->FindBool("forward"));
 			break;
 		case _UPDATE_:
 			break;
@@ -119,4 +137,104 @@ BWindow::_SendPointer(const BMessage& message, BView* view, uint32 transit)
 		copy.AddPoint("where", where);
 	}
 	_DispatchTo(&copy, view);
+}
+
+
+// Keys belong to the view that has the keyboard. With the Command key held they are shortcuts or
+// nothing.
+void
+BWindow::_DeliverKey(BMessage* message)
+{
+	BView* focus = fWindow->focus;
+	bool down = message->what == B_KEY_DOWN;
+	if (down && _Shortcut(*message))
+		return;
+	const char* bytes = message->FindString("bytes");
+	if (!focus && down && bytes && bytes[0] == B_TAB)
+		_Navigate(!(message->FindInt32("modifiers") & B_SHIFT_KEY));
+	else
+		_DispatchTo(message, focus ? static_cast<BHandler*>(focus) : this);
+}
+
+
+// True when the key has been dealt with.
+bool
+BWindow::_Shortcut(const BMessage& message)
+{
+	int32 modifiers = message.FindInt32("modifiers");
+	bool command = modifiers & B_COMMAND_KEY;
+	bool control = modifiers & B_CONTROL_KEY;
+	int32 key = message.FindInt32("raw_char");
+	if (command && key == 'q')
+		be_app_messenger.SendMessage(B_QUIT_REQUESTED);
+	else if (command && key == 'w')
+		PostMessage(B_QUIT_REQUESTED);
+	if (!command && !(control && (key == 'c' || key == 'v')))
+		return false;
+	// The desktop's own copy and paste count as well as the platform's.
+	static const struct {
+		int32 key;
+		uint32 what;
+	} edits[] = {{'c', B_COPY}, {'v', B_PASTE}, {'x', B_CUT}, {'a', B_SELECT_ALL}};
+	for (const auto& edit : edits) {
+		if (edit.key != key || !fWindow->focus)
+			continue;
+		BMessage posted(edit.what);
+		posted.AddInt64("when", message.FindInt64("when"));
+		posted.AddBool("shortcut", true);
+		PostMessage(&posted, fWindow->focus);
+	}
+	return true;
+}
+
+
+// To the innermost view under the pointer; one that does not know it passes it on.
+void
+BWindow::_DeliverDrop(BMessage* message)
+{
+	BPoint where = message->FindPoint(drop_field);
+	if (!message->WasDropped()) {
+		BLooper::_Deliver(message, this);
+		return;
+	}
+	message->RemoveName(drop_field);
+	BView* under = fWindow->root->_ViewAt(where);
+	bool inside = under && under != fWindow->root;
+	_DispatchTo(message, inside ? static_cast<BHandler*>(under) : this);
+}
+
+
+// Gives the keyboard to the next view that takes part in the walk, in the order of the tree.
+void
+BWindow::_Navigate(bool forward)
+{
+	std::vector<BView*> stops;
+	fWindow->root->_CollectNavigable(stops);
+	if (stops.empty())
+		return;
+	if (!forward)
+		std::reverse(stops.begin(), stops.end());
+	auto here = std::find(stops.begin(), stops.end(), fWindow->focus);
+	if (here == stops.end() || ++here == stops.end())
+		here = stops.begin();
+	(*here)->MakeFocus(true);
+}
+
+
+void
+BView::_CollectNavigable(std::vector<BView*>& stops)
+{
+	if (fState->hidden > 0)
+		return;
+	if (fState->flags & B_NAVIGABLE && _TakesKeyboard())
+		stops.push_back(this);
+	for (BView* child : fState->children)
+		child->_CollectNavigable(stops);
+}
+
+
+bool
+BView::_TakesKeyboard() const
+{
+	return true;
 }

@@ -7,6 +7,7 @@
 #include "app/kernixwindow.h"
 #include "font/globals.h"
 #include "font/ttf.h"
+#include <Alert.h>
 #include <AppDefs.h>
 #include <AppFileInfo.h>
 #include <cstdio>
@@ -66,6 +67,16 @@ kernix::RefsReceived(BMessage* message)
 	if (message->FindRef("refs", &ref) == B_OK)
 		load(ref);
 	fpanel = nullptr;
+}
+
+
+void
+kernix::AboutRequested()
+{
+	const char* text = "kernix ver.0.02   2012. 1. 1\n"
+					   "An editor for TrueType fonts: tables, outlines, bitmaps.\n"
+					   "Made by the kernix authors.";
+	(new BAlert("", text, "Thank you", nullptr, nullptr, B_WIDTH_AS_USUAL, B_INFO_ALERT))->Go();
 }
 
 

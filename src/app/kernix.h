@@ -28,6 +28,8 @@ public:
 
 	void MessageReceived(BMessage* message) override;
 	void RefsReceived(BMessage* message) override;
+	// Shows the About box and waits until it is closed.
+	void AboutRequested() override;
 
 	// Opens a font file in place of the open font. True on failure: then there is an empty font and
 	// an empty work view, or, when the window has gone, all is as it was.

@@ -34,7 +34,10 @@ enum : uint32 {
 
 	// The selector to the work view: show this table's panel. The work view to the selector:
 	// highlight this tag. "table" (int32): the tag.
-	msg_table = 'tsel'
+	msg_table = 'tsel',
+
+	// A text field of a panel to that panel: its text was confirmed. The fields of a control.
+	msg_changed = 'Vchg'
 };
 
 #endif

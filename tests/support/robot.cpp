@@ -6,6 +6,7 @@
 #include "display/display.h"
 
 #include <AppDefs.h>
+#include <atomic>
 #include <cmath>
 #include <InterfaceDefs.h>
 #include <Messenger.h>
@@ -463,11 +464,18 @@ robot::press_question(const std::string& label)
 void
 run_with_user(BApplication& application, const std::function<void(robot&)>& user)
 {
+	std::atomic<bool> gone = false;
 	std::thread hand([&] {
 		robot mine;
 		user(mine);
 		be_app_messenger.SendMessage(B_QUIT_REQUESTED);
+		gone = true;
 	});
 	application.Run();
+	// A user who has quit the program may still be looking at the display.
+	while (!gone) {
+		QCoreApplication::processEvents();
+		snooze(100);
+	}
 	hand.join();
 }

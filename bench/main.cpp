@@ -1,0 +1,52 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+#include "load_save.h"
+#include "memory.h"
+#include "support/installed_fonts.h"
+#include <cstdio>
+#include <filesystem>
+#include <vector>
+
+
+// The fonts named on the command line, or a small one and two large ones as far as they are here.
+static std::vector<std::string>
+fonts(int count, char** names)
+{
+	std::vector<std::string> found(names, names + count);
+	if (!found.empty())
+		return found;
+	for (const char* name : {"DejaVuSans.ttf", "ipag.ttf", "ipam.ttf"}) {
+		std::string path = installed_font(name);
+		if (path.empty())
+			fprintf(stderr, "%s is not installed and left out\n", name);
+		else
+			found.push_back(path);
+	}
+	return found;
+}
+
+
+int
+main(int argc, char** argv)
+{
+	// As the program has it.
+	setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+	benchmark::Initialize(&argc, argv);
+	// Memory first: what earlier measurements freed would be used again and count for nothing.
+	for (const std::string& path : fonts(argc - 1, argv + 1)) {
+		std::string name = std::filesystem::path(path).filename();
+		benchmark::RegisterBenchmark(("memory/" + name).c_str(), memory, path)->Iterations(1);
+	}
+	for (const std::string& path : fonts(argc - 1, argv + 1)) {
+		std::string name = std::filesystem::path(path).filename();
+		benchmark::RegisterBenchmark(("load_save/" + name).c_str(), load_and_save, path)
+			->UseManualTime()
+			->Unit(benchmark::kMillisecond)
+			->Repetitions(7)
+			->ReportAggregatesOnly();
+	}
+	benchmark::RunSpecifiedBenchmarks();
+	benchmark::Shutdown();
+	return 0;
+}

@@ -1,0 +1,86 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#include "display/field_peers.h"
+
+#include "display/display.h"
+#include "display/text_widget.h"
+#include "display/view_widget.h"
+
+using namespace kits;
+
+
+peer_ref
+field_peers::make_button(const peer_ref& parent, BRect frame, bool shown, const control_look& look,
+	report_address report)
+{
+	auto made = std::make_shared<peer>();
+	display::post([=] {
+		if (!parent->widget)
+			return;
+		auto* button = new button_widget(parent->widget, report);
+		button->set(look);
+		adopt(made, button, frame, shown);
+	});
+	return made;
+}
+
+
+void
+field_peers::set_button(const peer_ref& button, const control_look& look)
+{
+	display::post([=] {
+		if (button->widget)
+			static_cast<button_widget*>(button->widget)->set(look);
+	});
+}
+
+
+peer_ref
+field_peers::make_text(const peer_ref& parent, BRect frame, bool shown, const control_look& look,
+	float divider, report_address report)
+{
+	auto made = std::make_shared<peer>();
+	display::post([=] {
+		if (!parent->widget)
+			return;
+		auto* field = new text_widget(parent->widget, report);
+		adopt(made, field, frame, shown);
+		field->set(look, divider);
+	});
+	return made;
+}
+
+
+void
+field_peers::set_text_look(const peer_ref& field, const control_look& look, float divider)
+{
+	display::post([=] {
+		if (field->widget)
+			static_cast<text_widget*>(field->widget)->set(look, divider);
+	});
+}
+
+
+void
+field_peers::set_text(const peer_ref& field, const std::string& text, int32 serial)
+{
+	display::post([=] {
+		if (field->widget)
+			static_cast<text_widget*>(field->widget)->set_text(text, serial);
+	});
+}
+
+
+void
+field_peers::focus(const peer_ref& window, const peer_ref& control)
+{
+	display::post([=] {
+		QWidget* wanted = control ? control->widget : nullptr;
+		if (wanted && wanted->focusProxy())
+			wanted = wanted->focusProxy();
+		if (wanted && wanted->focusPolicy() != Qt::NoFocus)
+			wanted->setFocus(Qt::OtherFocusReason);
+		else if (window->widget && window->widget->focusWidget())
+			window->widget->focusWidget()->clearFocus();
+	});
+}

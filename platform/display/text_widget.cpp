@@ -1,0 +1,287 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#include "display/text_widget.h"
+
+#include "display/field_peers.h"
+#include "display/focus.h"
+#include "display/input.h"
+#include "display/look.h"
+
+#include <AppDefs.h>
+#include <QKeyEvent>
+
+using namespace kits;
+
+
+namespace {
+
+// A window losing activation, a menu opening: the field keeps the keyboard as far as the kit knows.
+bool
+counts(const QFocusEvent& event)
+{
+	if (focus_leaves_quietly())
+		return false;
+	switch (event.reason()) {
+		case Qt::ActiveWindowFocusReason:
+		case Qt::PopupFocusReason:
+		case Qt::MenuBarFocusReason:
+			return false;
+		default:
+			return true;
+	}
+}
+
+
+void
+send(report_address report, uint32 what)
+{
+	post_to(report.looper, report.handler, BMessage(what));
+}
+
+
+// The kit decides who is next, not the toolkit.
+bool
+walk(report_address report, bool forward)
+{
+	BMessage message(focus_walks);
+	message.AddBool("forward", forward);
+	post_to(report.looper, message);
+	return true;
+}
+
+}
+
+
+button_widget::button_widget(QWidget* parent, report_address report)
+	: QPushButton(parent),
+	  fReport(report)
+{
+	setAttribute(Qt::WA_NoMousePropagation);
+	connect(this, &QPushButton::clicked, [=] { send(report, control_invoked); });
+}
+
+
+void
+button_widget::set(const control_look& look)
+{
+	QString label = QString::fromStdString(look.label);
+	apply(look, *this);
+	// A click leaves the keyboard where it is; Tab may bring it here.
+	setFocusPolicy(look.navigable ? Qt::TabFocus : Qt::NoFocus);
+	setText(label.replace('&', "&&"));
+	explain_when_elided(*this, QString::fromStdString(look.label), width() - 6);
+}
+
+
+void
+button_widget::resizeEvent(QResizeEvent* event)
+{
+	QPushButton::resizeEvent(event);
+	explain_when_elided(*this, text().replace("&&", "&"), width() - 6);
+}
+
+
+void
+button_widget::keyPressEvent(QKeyEvent* event)
+{
+	if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+		if (!event->isAutoRepeat())
+			click();
+		return;
+	}
+	// Arrows would walk between buttons on their own.
+	if (event->key() == Qt::Key_Space)
+		QPushButton::keyPressEvent(event);
+	else
+		event->ignore();
+}
+
+
+void
+button_widget::focusInEvent(QFocusEvent* event)
+{
+	QPushButton::focusInEvent(event);
+	send(fReport, focus_gained);
+}
+
+
+void
+button_widget::focusOutEvent(QFocusEvent* event)
+{
+	QPushButton::focusOutEvent(event);
+	if (counts(*event))
+		send(fReport, focus_lost);
+}
+
+
+bool
+button_widget::focusNextPrevChild(bool next)
+{
+	return walk(fReport, next);
+}
+
+
+line_widget::line_widget(QWidget* parent, report_address report)
+	: QLineEdit(parent),
+	  fReport(report)
+{
+	// Dropped files are for the view behind, not text.
+	setAcceptDrops(false);
+	setAttribute(Qt::WA_NoMousePropagation);
+	setTextMargins(1, 0, 1, 0);
+	connect(this, &QLineEdit::textEdited, [this] { _Report(field_edited); });
+	connect(this, &QLineEdit::returnPressed, [this] {
+		_Report(field_entered);
+		selectAll();
+	});
+}
+
+
+void
+line_widget::set_text(const QString& text, int32 serial)
+{
+	fSerial = serial;
+	setText(text);
+	if (hasFocus())
+		selectAll();
+}
+
+
+void
+line_widget::_Report(uint32 what)
+{
+	BMessage message(what);
+	message.AddString("text", text().toUtf8().constData());
+	message.AddInt32("serial", fSerial);
+	post_to(fReport.looper, fReport.handler, message);
+}
+
+
+void
+line_widget::focusInEvent(QFocusEvent* event)
+{
+	QLineEdit::focusInEvent(event);
+	if (!counts(*event))
+		return;
+	fSelectOnRelease = event->reason() == Qt::MouseFocusReason;
+	selectAll();
+	send(fReport, focus_gained);
+}
+
+
+void
+line_widget::focusOutEvent(QFocusEvent* event)
+{
+	QLineEdit::focusOutEvent(event);
+	if (counts(*event))
+		send(fReport, focus_lost);
+}
+
+
+void
+line_widget::mouseReleaseEvent(QMouseEvent* event)
+{
+	QLineEdit::mouseReleaseEvent(event);
+	if (fSelectOnRelease && !hasSelectedText())
+		selectAll();
+	fSelectOnRelease = false;
+}
+
+
+void
+line_widget::keyPressEvent(QKeyEvent* event)
+{
+	// The platform's Command key is Alt; the desktop's own shortcuts work as ever.
+	if (event->modifiers() != Qt::AltModifier) {
+		QLineEdit::keyPressEvent(event);
+		return;
+	}
+	switch (event->key()) {
+		case Qt::Key_C:
+			copy();
+			break;
+		case Qt::Key_X:
+			cut();
+			break;
+		case Qt::Key_V:
+			paste();
+			break;
+		case Qt::Key_A:
+			selectAll();
+			break;
+		default:
+			event->ignore();
+	}
+}
+
+
+bool
+line_widget::focusNextPrevChild(bool next)
+{
+	return walk(fReport, next);
+}
+
+
+text_widget::text_widget(QWidget* parent, report_address report)
+	: QWidget(parent),
+	  fLabel(new QLabel(this)),
+	  fLine(new line_widget(this, report))
+{
+	setAttribute(Qt::WA_NoMousePropagation);
+	setAutoFillBackground(true);
+	setFocusProxy(fLine);
+	setFocusPolicy(Qt::NoFocus);
+	fLabel->setTextFormat(Qt::PlainText);
+}
+
+
+void
+text_widget::set(const control_look& look, float divider)
+{
+	apply(look, *this);
+	fLine->setFocusPolicy(look.navigable ? Qt::StrongFocus : Qt::ClickFocus);
+	fText = QString::fromStdString(look.label);
+	fDivider = divider;
+	_Arrange();
+}
+
+
+void
+text_widget::set_text(const std::string& text, int32 serial)
+{
+	fLine->set_text(QString::fromStdString(text), serial);
+	_Fit();
+}
+
+
+void
+text_widget::resizeEvent(QResizeEvent* event)
+{
+	QWidget::resizeEvent(event);
+	_Arrange();
+}
+
+
+void
+text_widget::_Arrange()
+{
+	int divider = std::clamp((int)fDivider, 0, width());
+	fLabel->setGeometry(0, 0, divider, height());
+	fLine->setGeometry(divider, 0, width() - divider, height());
+	_Fit();
+}
+
+
+// Narrow fields hold four digits; both texts get narrower letters before anything is cut off.
+void
+text_widget::_Fit()
+{
+	QFont narrow = fitted(font(), fText, fLabel->width());
+	fLabel->setFont(narrow);
+	fLabel->setText(QFontMetrics(narrow).elidedText(fText, Qt::ElideRight, fLabel->width()));
+	explain_when_elided(*fLabel, fText, fLabel->width());
+	// What a number may need; longer texts scroll.
+	bool number = fLine->text().size() <= 8;
+	// Beside its text a line keeps a margin and room for the cursor.
+	fLine->setFont(fitted(font(), number ? fLine->text() : QString(), fLine->width() - 8));
+}

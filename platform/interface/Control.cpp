@@ -1,0 +1,171 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#include "display/control_look.h"
+#include "display/field_peers.h"
+#include "interface/view_state.h"
+
+#include <Control.h>
+#include <Errors.h>
+#include <Message.h>
+#include <OS.h>
+#include <Window.h>
+
+using namespace kits;
+
+
+BControl::BControl(BRect frame, const char* name, const char* label, BMessage* message,
+	uint32 resizingMode, uint32 flags)
+	: BView(frame, name, resizingMode, flags),
+	  BInvoker(message),
+	  fLabel(label ? label : ""),
+	  fValue(B_CONTROL_OFF),
+	  fEnabled(true)
+{
+}
+
+
+BControl::~BControl() = default;
+
+
+void
+BControl::SetLabel(const char* label)
+{
+	fLabel = label ? label : "";
+	_TellPeer();
+}
+
+
+const char*
+BControl::Label() const
+{
+	return fLabel.c_str();
+}
+
+
+void
+BControl::SetValue(int32 value)
+{
+	if (value == fValue)
+		return;
+	fValue = value;
+	_TellPeer();
+}
+
+
+int32
+BControl::Value() const
+{
+	return fValue;
+}
+
+
+void
+BControl::SetEnabled(bool enabled)
+{
+	if (enabled == fEnabled)
+		return;
+	fEnabled = enabled;
+	_TellPeer();
+}
+
+
+bool
+BControl::IsEnabled() const
+{
+	return fEnabled;
+}
+
+
+status_t
+BControl::Invoke(BMessage* message)
+{
+	if (!message)
+		message = Message();
+	if (!message)
+		return B_BAD_VALUE;
+	BMessage copy(*message);
+	copy.AddInt64("when", system_time());
+	copy.AddPointer("source", this);
+	copy.AddInt32("be:value", fValue);
+	copy.AddMessenger("be:sender", BMessenger(this));
+	return BInvoker::Invoke(&copy);
+}
+
+
+void
+BControl::AttachedToWindow()
+{
+	BView* parent = fState->parent;
+	SetViewColor(parent->ViewColor());
+	SetLowColor(parent->LowColor());
+	if (!Messenger().IsValid())
+		SetTarget(Window());
+	// Made with the window's colours; these are the parent's.
+	_TellPeer();
+}
+
+
+// The keyboard on the display has moved on its own; the kit follows.
+void
+BControl::MessageReceived(BMessage* message)
+{
+	switch (message->what) {
+		case focus_gained:
+			Window()->_FollowFocus(this);
+			break;
+		case focus_lost:
+			if (IsFocus())
+				Window()->_FollowFocus(nullptr);
+			break;
+		default:
+			BView::MessageReceived(message);
+	}
+}
+
+
+bool
+BControl::_IsPainted() const
+{
+	return false;
+}
+
+
+bool
+BControl::_TakesKeyboard() const
+{
+	return fEnabled;
+}
+
+
+control_look
+BControl::_Look() const
+{
+	control_look look;
+	look.label = fLabel;
+	look.value = fValue;
+	look.enabled = fEnabled;
+	look.navigable = Flags() & B_NAVIGABLE;
+	look.background = ViewColor();
+	GetFont(&look.font);
+	return look;
+}
+
+
+void
+BControl::_TellPeer()
+{
+}
+
+
+const peer_ref&
+BControl::_Widget() const
+{
+	return fState->widget;
+}
+
+
+void
+BControl::_SetWidget(peer_ref widget)
+{
+	fState->widget = std::move(widget);
+}

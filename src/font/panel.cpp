@@ -1,0 +1,98 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+#include "font/panel.h"
+
+#include "font/messages.h"
+#include "font/ttf_table.h"
+#include <cstdio>
+#include <Message.h>
+#include <TextControl.h>
+
+// Pixels of the listing.
+static const float label_x = 20;
+static const float value_x = 170;
+static const float first_baseline = 20;
+static const float row_height = 15;
+
+
+void
+panel_colors(BView* panel)
+{
+	panel->SetHighColor(0, 0, 0);
+	panel->SetViewColor(200, 200, 220);
+	panel->SetLowColor(150, 150, 165);
+	panel->SetFont(be_plain_font);
+}
+
+
+void
+panel_clear(BView* panel, BRect area)
+{
+	panel->SetHighColor(255, 255, 255);
+	panel->SetLowColor(0, 0, 0);
+	panel->SetViewColor(0, 0, 0);
+	panel->FillRect(area, B_SOLID_LOW);
+}
+
+
+void
+panel_row(BView* panel, int row, const char* label, const char* value)
+{
+	float baseline = first_baseline + row_height * (float)row;
+	panel->DrawString(label, BPoint(label_x, baseline));
+	panel->DrawString(value, BPoint(value_x, baseline));
+}
+
+
+std::string
+field_text(const ttf_table& table, const panel_field& field)
+{
+	char text[20] = "";
+	if (table.length < (uint32)field.offset + field.size)
+		return text;
+	switch (field.size) {
+		case 2:
+			snprintf(text, sizeof text, "%04x", table.u16(field.offset));
+			break;
+		case 4:
+			snprintf(text, sizeof text, "%08x", table.u32(field.offset));
+			break;
+		case 8:
+			snprintf(text, sizeof text, "%016llx", (unsigned long long)table.u64(field.offset));
+			break;
+	}
+	return text;
+}
+
+
+BTextControl*
+panel_edit(BView* panel, BRect place, const char* name, const char* label, float divider)
+{
+	BTextControl* control = new BTextControl(place, name, label, "", new BMessage(msg_changed),
+		B_FOLLOW_LEFT | B_FOLLOW_TOP, B_WILL_DRAW | B_NAVIGABLE);
+	control->SetDivider(divider);
+	panel->AddChild(control);
+	control->SetTarget(panel);
+	return control;
+}
+
+
+bool
+read_hex(const BTextControl* control, uint32* value)
+{
+	unsigned int number;
+	if (sscanf(control->Text(), "%x", &number) != 1)
+		return false;
+	*value = number;
+	return true;
+}
+
+
+void
+show_hex(BTextControl* control, uint32 value, int digits)
+{
+	char text[12];
+	snprintf(text, sizeof text, "%0*x", digits, value);
+	control->SetText(text);
+}
