@@ -230,6 +230,7 @@ private:
 	void _ScrollContents(BPoint by);
 	void _ScrollBarsFollow();
 	void _Wheel(BMessage* message);
+	void _Key(BMessage* message);
 	bool _CanBeSeen() const;
 	void _ForgetImages();
 	void _VisibilityChanged();

@@ -7,6 +7,7 @@
 #include <AppDefs.h>
 #include <cmath>
 #include <cstring>
+#include <Errors.h>
 #include <Looper.h>
 #include <Message.h>
 #include <ScrollBar.h>
@@ -326,16 +327,10 @@ BView::MessageReceived(BMessage* message)
 		case B_MOUSE_WHEEL_CHANGED:
 			_Wheel(message);
 			break;
-		case B_KEY_DOWN: {
-			const char* bytes = message->FindString("bytes");
-			KeyDown(bytes, (int32)strlen(bytes));
+		case B_KEY_DOWN:
+		case B_KEY_UP:
+			_Key(message);
 			break;
-		}
-		case B_KEY_UP: {
-			const char* bytes = message->FindString("bytes");
-			KeyUp(bytes, (int32)strlen(bytes));
-			break;
-		}
 		default:
 			BHandler::MessageReceived(message);
 	}
@@ -363,6 +358,20 @@ BView::MouseUp(BPoint)
 void
 BView::MouseMoved(BPoint, uint32, const BMessage*)
 {
+}
+
+
+// A message without "bytes" is no key.
+void
+BView::_Key(BMessage* message)
+{
+	const char* bytes;
+	if (message->FindString("bytes", &bytes) != B_OK)
+		return;
+	if (message->what == B_KEY_DOWN)
+		KeyDown(bytes, (int32)strlen(bytes));
+	else
+		KeyUp(bytes, (int32)strlen(bytes));
 }
 
 

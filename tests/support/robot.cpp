@@ -7,20 +7,27 @@
 
 #include <AppDefs.h>
 #include <atomic>
+#include <cctype>
 #include <cmath>
 #include <InterfaceDefs.h>
 #include <Messenger.h>
 #include <ostream>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QPointingDevice>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTabletEvent>
+#include <QUrl>
 #include <QWindow>
 #include <semaphore>
 
@@ -83,6 +90,17 @@ shown_panel()
 		auto* dialog = dynamic_cast<QFileDialog*>(widget);
 		if (dialog && dialog->isVisible())
 			return dialog;
+	}
+	return nullptr;
+}
+
+
+QWidget*
+shown_alert()
+{
+	for (QWidget* widget : QApplication::topLevelWidgets()) {
+		if (widget->objectName() == "alert" && widget->isVisible())
+			return widget;
 	}
 	return nullptr;
 }
@@ -263,6 +281,213 @@ robot::wheel(BPoint where, float down, float across)
 		QCoreApplication::sendEvent(window->windowHandle(), &event);
 	});
 	settle();
+}
+
+
+void
+robot::_Pen(int type, BPoint where, const pen& held)
+{
+	// Never destroyed: Qt keeps a list of devices to the end.
+	static auto* const stylus = new QPointingDevice("stylus", 1, QInputDevice::DeviceType::Stylus,
+		QPointingDevice::PointerType::Pen,
+		QInputDevice::Capability::Position | QInputDevice::Capability::Pressure
+			| QInputDevice::Capability::XTilt | QInputDevice::Capability::YTilt,
+		1, 2);
+	static auto* const rubber = new QPointingDevice("rubber", 2, QInputDevice::DeviceType::Stylus,
+		QPointingDevice::PointerType::Eraser,
+		QInputDevice::Capability::Position | QInputDevice::Capability::Pressure, 1, 2);
+	settle();
+	as_event([&] {
+		QWidget* window = _Window();
+		if (!window)
+			return;
+		QPointF local(where.x, where.y);
+		bool moving = type == QEvent::TabletMove;
+		QTabletEvent event((QEvent::Type)type, held.eraser ? rubber : stylus, local,
+			window->windowHandle()->mapToGlobal(local), held.pressure, held.tilt_x, held.tilt_y, 0,
+			0, 0, Qt::NoModifier, moving ? Qt::NoButton : Qt::LeftButton, to_qt_buttons(fHeld));
+		QCoreApplication::sendEvent(window->windowHandle(), &event);
+	});
+	settle();
+}
+
+
+void
+robot::pen_down(BPoint where, pen held)
+{
+	fHeld |= B_PRIMARY_MOUSE_BUTTON;
+	_Pen(QEvent::TabletPress, where, held);
+}
+
+
+void
+robot::pen_move(BPoint where, pen held)
+{
+	_Pen(QEvent::TabletMove, where, held);
+}
+
+
+void
+robot::pen_up(BPoint where, pen held)
+{
+	fHeld &= ~B_PRIMARY_MOUSE_BUTTON;
+	_Pen(QEvent::TabletRelease, where, held);
+}
+
+
+void
+robot::drop(BPoint where, const std::vector<std::string>& paths)
+{
+	settle();
+	as_event([&] {
+		QWidget* window = _Window();
+		if (!window)
+			return;
+		QMimeData data;
+		QList<QUrl> urls;
+		for (const std::string& path : paths)
+			urls.append(QUrl::fromLocalFile(QString::fromStdString(path)));
+		if (urls.isEmpty())
+			data.setText("no files");
+		else
+			data.setUrls(urls);
+		QPoint place((int)where.x, (int)where.y);
+		QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+		QCoreApplication::sendEvent(window->windowHandle(), &enter);
+		if (!enter.isAccepted())
+			return;
+		QDropEvent drop(QPointF(place), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+		QCoreApplication::sendEvent(window->windowHandle(), &drop);
+	});
+	settle();
+}
+
+
+void
+robot::_Key(bool down, int key, const std::string& text, int32 modifiers)
+{
+	settle();
+	as_event([&] {
+		QWidget* window = _Window();
+		if (!window)
+			return;
+		QKeyEvent event(down ? QEvent::KeyPress : QEvent::KeyRelease, key,
+			to_qt_modifiers(modifiers), QString::fromStdString(text));
+		QCoreApplication::sendEvent(window->windowHandle(), &event);
+	});
+	settle();
+}
+
+
+void
+robot::key_down(int key, const std::string& text, int32 modifiers)
+{
+	_Key(true, key, text, modifiers);
+}
+
+
+void
+robot::key_up(int key, const std::string& text, int32 modifiers)
+{
+	_Key(false, key, text, modifiers);
+}
+
+
+void
+robot::key(int which, const std::string& text, int32 modifiers)
+{
+	key_down(which, text, modifiers);
+	key_up(which, text, modifiers);
+}
+
+
+void
+robot::type(const std::string& text)
+{
+	for (char letter : text)
+		key(toupper((unsigned char)letter), std::string(1, letter));
+}
+
+
+std::string
+robot::field_text(BPoint where)
+{
+	std::string text;
+	on_display([&] {
+		QWidget* found = _Window()->childAt((int)where.x, (int)where.y);
+		if (auto* line = dynamic_cast<QLineEdit*>(found))
+			text = line->text().toStdString();
+	});
+	return text;
+}
+
+
+bool
+robot::has_keyboard(BPoint where)
+{
+	bool has = false;
+	on_display([&] {
+		QWidget* found = _Window()->childAt((int)where.x, (int)where.y);
+		has = found && _Window()->focusWidget() == found;
+	});
+	return has;
+}
+
+
+std::string
+robot::tooltip(BPoint where)
+{
+	std::string text;
+	on_display([&] {
+		if (QWidget* found = _Window()->childAt((int)where.x, (int)where.y))
+			text = found->toolTip().toStdString();
+	});
+	return text;
+}
+
+
+std::string
+robot::alert_text()
+{
+	std::string text;
+	on_display([&] {
+		QWidget* alert = shown_alert();
+		for (QLabel* label : alert ? alert->findChildren<QLabel*>() : QList<QLabel*>())
+			text += label->text().toStdString();
+	});
+	return text;
+}
+
+
+std::vector<std::string>
+robot::alert_buttons()
+{
+	std::vector<std::string> labels;
+	on_display([&] {
+		QWidget* alert = shown_alert();
+		for (auto* button : alert ? alert->findChildren<QPushButton*>() : QList<QPushButton*>())
+			labels.push_back(button->text().toStdString());
+	});
+	return labels;
+}
+
+
+bool
+robot::press_alert(const std::string& label)
+{
+	bool pressed = false;
+	settle();
+	as_event([&] {
+		QWidget* alert = shown_alert();
+		for (auto* button : alert ? alert->findChildren<QPushButton*>() : QList<QPushButton*>()) {
+			if (button->text().toStdString() == label) {
+				button->click();
+				pressed = true;
+			}
+		}
+	});
+	settle();
+	return pressed;
 }
 
 

@@ -44,6 +44,19 @@ public:
 	void click(BPoint where, int32 button = B_PRIMARY_MOUSE_BUTTON, int32 modifiers = 0);
 	// Notches; positive is down and right.
 	void wheel(BPoint where, float down, float across = 0);
+	// What a pen does beside the pointer; positions may be fractions of a pixel.
+	struct pen {
+		float pressure = 0;
+		// Degrees from upright, -60..60.
+		float tilt_x = 0;
+		float tilt_y = 0;
+		bool eraser = false;
+	};
+	void pen_down(BPoint where, pen held);
+	void pen_move(BPoint where, pen held);
+	void pen_up(BPoint where, pen held);
+	// Drags files in from outside and lets go of them; or, without files, a piece of text.
+	void drop(BPoint where, const std::vector<std::string>& paths);
 	void resize_window(float width, float height);
 	void press_close_box();
 	void press_zoom_box();
@@ -61,6 +74,23 @@ public:
 	std::vector<int> scroll_bar(orientation posture);
 	void drag_scroll_bar(orientation posture, int value);
 
+	// Keys go to whatever has the keyboard on the display. A key is a Qt::Key.
+	void key_down(int key, const std::string& text = "", int32 modifiers = 0);
+	void key_up(int key, const std::string& text = "", int32 modifiers = 0);
+	void key(int key, const std::string& text = "", int32 modifiers = 0);
+	// Types ASCII text.
+	void type(const std::string& text);
+
+	// Text of the field at that place, as the screen shows it; empty where there is none.
+	std::string field_text(BPoint where);
+	// True when the widget at that place has the keyboard on the display.
+	bool has_keyboard(BPoint where);
+	std::string tooltip(BPoint where);
+	// The alert on the screen: its text, and pressing one of its buttons (false when there is none).
+	std::string alert_text();
+	std::vector<std::string> alert_buttons();
+	bool press_alert(const std::string& button);
+
 	bool panel_is_open();
 	int count_panels();
 	// Types a path, or a name, into the open panel's field and confirms it.
@@ -74,6 +104,8 @@ public:
 
 private:
 	QWidget* _Window();
+	void _Key(bool down, int key, const std::string& text, int32 modifiers);
+	void _Pen(int type, BPoint where, const pen& held);
 	void _Pointer(int type, BPoint where, int32 button, int32 modifiers);
 
 	std::string fTitle;
