@@ -16,107 +16,8 @@
 using namespace kits;
 
 
-namespace {
-
-bool
-same(const pattern& a, const pattern& b)
-{
-	return memcmp(a.data, b.data, sizeof a.data) == 0;
-}
-
-
-// Only the two solid patterns are used so far: what is not solid low paints high.
-QColor
-colour(const drawing_context& context, const pattern& p)
-{
-	return to_qcolor(same(p, B_SOLID_LOW) ? context.state->low : context.state->high);
-}
-
-
-bool
-finite(BPoint point)
-{
-	return std::isfinite(point.x) && std::isfinite(point.y);
-}
-
-
-bool
-finite(BRect rect)
-{
-	return finite(rect.LeftTop()) && finite(rect.RightBottom());
-}
-
-
-BRect
-in_order(BRect rect)
-{
-	return BRect(std::min(rect.left, rect.right), std::min(rect.top, rect.bottom),
-		std::max(rect.left, rect.right), std::max(rect.top, rect.bottom));
-}
-
-
-// Coordinates are truncated to whole pixels, toward zero.
-BRect
-truncated(BRect rect)
-{
-	return BRect(std::trunc(rect.left), std::trunc(rect.top), std::trunc(rect.right),
-		std::trunc(rect.bottom));
-}
-
-}
-
-
 front_image::front_image() = default;
 front_image::~front_image() = default;
-
-
-// A painter whose space is the image's device pixels. Geometry is mapped before it is painted:
-// with a transform, thin strokes would land between pixels.
-class canvas::painter : public QPainter {
-public:
-	painter(canvas& target, const drawing_context& context)
-		: QPainter(target.fImage.get()),
-		  fRatio(target.fRatio),
-		  fOffset(context.offset)
-	{
-		QRegion clip(pixels(to_qrect(context.clip)));
-		if (context.update) {
-			QRegion update;
-			QPoint offset((int)fOffset.x, (int)fOffset.y);
-			for (const QRect& rect : context.update->pixels())
-				update += pixels(rect.translated(offset));
-			clip &= update;
-		}
-		setClipRegion(clip);
-	}
-
-	// Canvas pixels to device pixels, whole ones that are touched.
-	QRect pixels(const QRect& rect) const
-	{
-		int left = (int)std::floor(rect.left() * fRatio);
-		int top = (int)std::floor(rect.top() * fRatio);
-		int right = (int)std::ceil((rect.right() + 1) * fRatio);
-		int bottom = (int)std::ceil((rect.bottom() + 1) * fRatio);
-		return QRect(left, top, right - left, bottom - top);
-	}
-
-	QRect view_pixels(BRect rect) const
-	{
-		rect.OffsetBy(fOffset);
-		return pixels(to_qrect(rect));
-	}
-
-	// The middle of the pixel that the point names.
-	QPointF centre(BPoint point) const
-	{
-		return QPointF(
-			(point.x + fOffset.x + 0.5F) * fRatio, (point.y + fOffset.y + 0.5F) * fRatio);
-	}
-
-private:
-	float fRatio;
-	BPoint fOffset;
-};
 
 
 canvas::canvas(int32 width, int32 height, float ratio)
@@ -143,106 +44,24 @@ canvas::~canvas() = default;
 
 
 void
-canvas::erase(const drawing_context& context, BRect rect, rgb_color color)
-{
-	painter p(*this, context);
-	p.fillRect(p.view_pixels(rect), to_qcolor(color));
-	_Touched(context, rect);
-}
-
-
-void
-canvas::fill_rect(const drawing_context& context, BRect rect, const pattern& p)
-{
-	if (!finite(rect) || !rect.IsValid())
-		return;
-	rect = truncated(rect);
-	painter paint(*this, context);
-	paint.fillRect(paint.view_pixels(rect), colour(context, p));
-	_Touched(context, rect);
-}
-
-
-void
-canvas::stroke_line(const drawing_context& context, BPoint from, BPoint to, const pattern& p)
-{
-	if (!finite(from) || !finite(to))
-		return;
-	painter paint(*this, context);
-	// One pixel is a hairline, whose round cap draws the last pixel too; a wider device pixel needs
-	// the square one to cover the kit's pixel at both ends.
-	bool hairline = fRatio <= 1;
-	paint.setPen(QPen(colour(context, p), hairline ? 0 : fRatio, Qt::SolidLine,
-		hairline ? Qt::RoundCap : Qt::SquareCap));
-	paint.drawLine(paint.centre(from), paint.centre(to));
-	BRect box = in_order(BRect(from, to));
-	box.InsetBy(-1, -1);
-	_Touched(context, box);
-}
-
-
-void
-canvas::stroke_rect(const drawing_context& context, BRect rect, const pattern& p)
-{
-	if (!finite(rect))
-		return;
-	rect = truncated(in_order(rect));
-	painter paint(*this, context);
-	QRect outer = paint.view_pixels(rect);
-	QRegion frame(outer);
-	BRect inner = rect;
-	inner.InsetBy(1, 1);
-	if (inner.IsValid())
-		frame -= paint.view_pixels(inner);
-	QColor ink = colour(context, p);
-	for (const QRect& part : frame)
-		paint.fillRect(part, ink);
-	_Touched(context, rect);
-}
-
-
-void
-canvas::text(const drawing_context& context, const char* text, int32 length, BPoint baseline)
-{
-	if (!display::running() || !finite(baseline))
-		return;
-	const BFont& font = context.state->font;
-	painter paint(*this, context);
-	paint.setPen(to_qcolor(context.state->high));
-	paint.setFont(screen_font(font.Size(), font.Face() & B_BOLD_FACE));
-	paint.translate(context.offset.x * fRatio, context.offset.y * fRatio);
-	paint.scale(fRatio, fRatio);
-	paint.drawText(QPointF(baseline.x, baseline.y), QString::fromUtf8(text, length));
-	font_height height = text_height(font);
-	float width = text_width(font, text, length);
-	// Some glyphs reach over their advance on both sides.
-	_Touched(context,
-		BRect(baseline.x - height.ascent, baseline.y - 2 * height.ascent,
-			baseline.x + width + height.ascent, baseline.y + 2 * height.descent));
-}
-
-
-void
-canvas::image(const drawing_context& context, const canvas& source, BPoint where)
-{
-	if (!finite(where))
-		return;
-	BRect place(
-		where.x, where.y, where.x + (float)source.fWidth - 1, where.y + (float)source.fHeight - 1);
-	place = truncated(place);
-	painter paint(*this, context);
-	paint.drawImage(paint.view_pixels(place), *source.fImage);
-	_Touched(context, place);
-}
-
-
-void
 canvas::_Touched(const drawing_context& context, BRect rect)
 {
 	rect.OffsetBy(context.offset);
 	rect = rect & BRect(0, 0, (float)fWidth - 1, (float)fHeight - 1);
 	if (rect.IsValid())
 		fTouched = fTouched.IsValid() ? fTouched | rect : rect;
+}
+
+
+// The rectangle is in device pixels already.
+void
+canvas::_TouchedDevice(const QRectF& rect, float reach)
+{
+	BRect box((float)rect.left() / fRatio, (float)rect.top() / fRatio, (float)rect.right() / fRatio,
+		(float)rect.bottom() / fRatio);
+	box.InsetBy(-reach - 1, -reach - 1);
+	drawing_context here;
+	_Touched(here, box);
 }
 
 

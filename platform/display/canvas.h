@@ -7,6 +7,7 @@
 
 #include <Font.h>
 #include <GraphicsDefs.h>
+#include <InterfaceDefs.h>
 #include <memory>
 #include <mutex>
 #include <Point.h>
@@ -14,6 +15,8 @@
 
 class QImage;
 class QPainter;
+class QPainterPath;
+class QRectF;
 
 namespace kits {
 
@@ -21,8 +24,36 @@ namespace kits {
 struct drawing_state {
 	rgb_color high = {0, 0, 0, 255};
 	rgb_color low = {255, 255, 255, 255};
+	drawing_mode mode = B_OP_COPY;
+	float pen_size = 1;
+	cap_mode cap = B_BUTT_CAP;
+	join_mode join = B_MITER_JOIN;
+	float miter_limit = B_DEFAULT_MITER_LIMIT;
+	// Of this state, and of those it was pushed upon: what is drawn is scaled by both.
+	float scale = 1;
+	float outer_scale = 1;
 	BPoint pen = BPoint(0, 0);
 	BFont font;
+
+	float scaled() const { return scale * outer_scale; }
+};
+
+// A path in the view's coordinates.
+class outline {
+public:
+	outline();
+	~outline();
+	outline(const outline&) = delete;
+	outline& operator=(const outline&) = delete;
+
+	void move_to(BPoint point);
+	void line_to(BPoint point);
+	void bezier_to(BPoint first, BPoint second, BPoint end);
+	void close();
+	const QPainterPath& path() const { return *fPath; }
+
+private:
+	std::unique_ptr<QPainterPath> fPath;
 };
 
 class canvas;
@@ -72,6 +103,13 @@ public:
 	void fill_rect(const drawing_context& context, BRect rect, const pattern& p);
 	void stroke_line(const drawing_context& context, BPoint from, BPoint to, const pattern& p);
 	void stroke_rect(const drawing_context& context, BRect rect, const pattern& p);
+	void stroke_ellipse(const drawing_context& context, BRect rect, const pattern& p);
+	void fill_ellipse(const drawing_context& context, BRect rect, const pattern& p);
+	// The path is moved by the offset, in the view's coordinates.
+	void stroke_path(
+		const drawing_context& context, const outline& shape, BPoint by, const pattern& p);
+	void fill_path(
+		const drawing_context& context, const outline& shape, BPoint by, const pattern& p);
 	// Without a display nothing is drawn.
 	void text(const drawing_context& context, const char* text, int32 length, BPoint baseline);
 	void image(const drawing_context& context, const canvas& source, BPoint where);
@@ -86,7 +124,9 @@ public:
 private:
 	class painter;
 
+	// What publish() has to bring: a box in the view's pixels, or one in device pixels.
 	void _Touched(const drawing_context& context, BRect rect);
+	void _TouchedDevice(const QRectF& rect, float reach);
 
 	std::unique_ptr<QImage> fImage;
 	int32 fWidth;

@@ -14,10 +14,12 @@
 
 class BBitmap;
 class BScrollBar;
+class BShape;
 class BWindow;
 
 namespace kits {
 class canvas;
+class outline;
 struct drawing_context;
 struct peer;
 struct view_state;
@@ -173,6 +175,21 @@ public:
 	float StringWidth(const char* text) const;
 	void GetFontHeight(font_height* height) const;
 
+	// In B_OP_INVERT every pixel under a set bit of the pattern is turned into its opposite, whatever
+	// the colours; twice is unchanged. Other modes draw like B_OP_COPY.
+	virtual void SetDrawingMode(drawing_mode mode);
+	drawing_mode DrawingMode() const;
+	// Multiplied by the scale; below one pixel, also 0, it is one pixel.
+	virtual void SetPenSize(float size);
+	float PenSize() const;
+	void SetLineMode(cap_mode cap, join_mode join, float miterLimit = B_DEFAULT_MITER_LIMIT);
+	// Everything of the drawing state but the view colour; must balance. A pushed state starts with
+	// a scale of 1 on top of the current one.
+	void PushState();
+	void PopState();
+	// Scales what is drawn about (0, 0); not Bounds(), not the pointer. Replaces the scale.
+	void SetScale(float scale) const;
+
 	void MovePenTo(BPoint where);
 	void MovePenTo(float x, float y);
 	void MovePenBy(float dx, float dy);
@@ -185,6 +202,12 @@ public:
 	void StrokeRect(BRect rect, ::pattern p = B_SOLID_HIGH);
 	// All pixels, edges included; an invalid rectangle paints nothing.
 	void FillRect(BRect rect, ::pattern p = B_SOLID_HIGH);
+	// Inscribed in the rectangle, edges included.
+	void StrokeEllipse(BRect rect, ::pattern p = B_SOLID_HIGH);
+	void FillEllipse(BRect rect, ::pattern p = B_SOLID_HIGH);
+	// Relative to the pen, which stays where it is.
+	void StrokeShape(BShape* shape, ::pattern p = B_SOLID_HIGH);
+	void FillShape(BShape* shape, ::pattern p = B_SOLID_HIGH);
 	// The point is the left end of the baseline; the pen ends up at the end of the text. UTF-8.
 	void DrawString(const char* text, escapement_delta* delta = NULL);
 	void DrawString(const char* text, BPoint baseline, escapement_delta* delta = NULL);
@@ -237,6 +260,7 @@ private:
 	bool _Context(kits::drawing_context& context) const;
 	bool _OffscreenContext(kits::drawing_context& context) const;
 	void _Touched() const;
+	void _Trace(const BShape& shape, kits::outline& path) const;
 	void _Update();
 	void _MakeImage();
 	void _Publish();

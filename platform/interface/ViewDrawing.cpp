@@ -1,12 +1,13 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
-// What a view draws, and how it comes to the screen.
+// What a view draws, and what it draws with.
 #include "interface/view_state.h"
 #include "interface/window_state.h"
 
 #include <Bitmap.h>
 #include <cmath>
 #include <cstring>
+#include <Shape.h>
 #include <View.h>
 #include <Window.h>
 
@@ -119,6 +120,71 @@ BView::GetFontHeight(font_height* height) const
 
 
 void
+BView::SetDrawingMode(drawing_mode mode)
+{
+	fState->drawing.mode = mode;
+}
+
+
+drawing_mode
+BView::DrawingMode() const
+{
+	return fState->drawing.mode;
+}
+
+
+void
+BView::SetPenSize(float size)
+{
+	if (std::isfinite(size) && size >= 0)
+		fState->drawing.pen_size = size;
+}
+
+
+float
+BView::PenSize() const
+{
+	return fState->drawing.pen_size;
+}
+
+
+void
+BView::SetLineMode(cap_mode cap, join_mode join, float miterLimit)
+{
+	fState->drawing.cap = cap;
+	fState->drawing.join = join;
+	fState->drawing.miter_limit = miterLimit;
+}
+
+
+void
+BView::PushState()
+{
+	fState->pushed.push_back(fState->drawing);
+	fState->drawing.outer_scale *= fState->drawing.scale;
+	fState->drawing.scale = 1;
+}
+
+
+void
+BView::PopState()
+{
+	if (fState->pushed.empty())
+		return;
+	fState->drawing = fState->pushed.back();
+	fState->pushed.pop_back();
+}
+
+
+void
+BView::SetScale(float scale) const
+{
+	if (std::isfinite(scale) && scale > 0)
+		fState->drawing.scale = scale;
+}
+
+
+void
 BView::MovePenTo(BPoint where)
 {
 	if (std::isfinite(where.x) && std::isfinite(where.y))
@@ -189,6 +255,78 @@ BView::FillRect(BRect rect, ::pattern p)
 
 
 void
+BView::StrokeEllipse(BRect rect, ::pattern p)
+{
+	drawing_context context;
+	if (_Context(context)) {
+		context.target->stroke_ellipse(context, rect, p);
+		_Touched();
+	}
+}
+
+
+void
+BView::FillEllipse(BRect rect, ::pattern p)
+{
+	drawing_context context;
+	if (_Context(context)) {
+		context.target->fill_ellipse(context, rect, p);
+		_Touched();
+	}
+}
+
+
+void
+BView::StrokeShape(BShape* shape, ::pattern p)
+{
+	drawing_context context;
+	if (!shape || !_Context(context))
+		return;
+	outline path;
+	_Trace(*shape, path);
+	context.target->stroke_path(context, path, fState->drawing.pen, p);
+	_Touched();
+}
+
+
+void
+BView::FillShape(BShape* shape, ::pattern p)
+{
+	drawing_context context;
+	if (!shape || !_Context(context))
+		return;
+	outline path;
+	_Trace(*shape, path);
+	context.target->fill_path(context, path, fState->drawing.pen, p);
+	_Touched();
+}
+
+
+void
+BView::_Trace(const BShape& shape, outline& path) const
+{
+	const BPoint* point = shape.fPoints.data();
+	for (BShape::verb verb : shape.fVerbs) {
+		switch (verb) {
+			case BShape::move_to:
+				path.move_to(*point++);
+				break;
+			case BShape::line_to:
+				path.line_to(*point++);
+				break;
+			case BShape::bezier_to:
+				path.bezier_to(point[0], point[1], point[2]);
+				point += 3;
+				break;
+			case BShape::close:
+				path.close();
+				break;
+		}
+	}
+}
+
+
+void
 BView::DrawString(const char* text, escapement_delta* delta)
 {
 	DrawString(text, fState->drawing.pen, delta);
@@ -232,170 +370,4 @@ BView::DrawBitmap(const BBitmap* bitmap, BPoint where)
 		return;
 	context.target->image(context, *bitmap->fState->pixels, where);
 	_Touched();
-}
-
-
-void
-BView::Invalidate()
-{
-	Invalidate(Bounds());
-}
-
-
-void
-BView::Invalidate(BRect rect)
-{
-	if (!fState->window || !std::isfinite(rect.left + rect.top + rect.right + rect.bottom))
-		return;
-	fState->invalid.add(rect & Bounds());
-	fState->window->fWindow->dirty = true;
-}
-
-
-void
-BView::Flush() const
-{
-	if (fState->window)
-		fState->window->_Flush();
-}
-
-
-void
-BView::Sync() const
-{
-	if (!fState->window || fState->window->fWindow->offscreen)
-		return;
-	fState->window->_Flush();
-	window_peers::ratio(fState->window->fWindow->widget);
-}
-
-
-// False where drawing would be seen by nobody. A view that is to be drawn for the first time has no
-// image yet; its first update brings everything.
-bool
-BView::_Context(drawing_context& context) const
-{
-	if (!fState->window)
-		return false;
-	if (fState->window->fWindow->offscreen)
-		return _OffscreenContext(context);
-	if (!fState->image)
-		return false;
-	context.target = fState->image.get();
-	context.state = &fState->drawing;
-	context.offset = BPoint(-fState->scroll.x, -fState->scroll.y);
-	context.clip = BRect(0, 0, fState->frame.Width(), fState->frame.Height());
-	context.update = fState->updating;
-	return true;
-}
-
-
-// In a bitmap all views share its pixels, each within its ancestors.
-bool
-BView::_OffscreenContext(drawing_context& context) const
-{
-	if (IsHidden())
-		return false;
-	context.target = fState->window->fWindow->offscreen;
-	context.state = &fState->drawing;
-	BPoint origin(0, 0);
-	BRect clip = Bounds();
-	for (const BView* view = this; view->fState->parent; view = view->fState->parent) {
-		clip = clip & view->Bounds();
-		BPoint step = view->ConvertToParent(BPoint(0, 0));
-		origin += step;
-		clip.OffsetBy(step);
-	}
-	context.offset = origin;
-	context.clip = clip;
-	return clip.IsValid();
-}
-
-
-void
-BView::_Touched() const
-{
-	fState->window->fWindow->dirty = true;
-}
-
-
-// Parents first, so that a child sees what lies behind it already drawn.
-void
-BView::_UpdateTree()
-{
-	if (fState->hidden > 0)
-		return;
-	if (fState->widget && fState->parent && !fState->window->fWindow->offscreen) {
-		_Update();
-		_Publish();
-	}
-	// A Draw() may change the children.
-	std::vector<BView*> children = fState->children;
-	for (BView* child : children) {
-		if (child->fState->parent == this)
-			child->_UpdateTree();
-	}
-}
-
-
-void
-BView::_MakeImage()
-{
-	int32 width = (int32)fState->frame.Width() + 1;
-	int32 height = (int32)fState->frame.Height() + 1;
-	float ratio = fState->window->fWindow->ratio;
-	canvas* old = fState->image.get();
-	if (old && old->width() == width && old->height() == height && old->ratio() == ratio)
-		return;
-	auto fresh = std::make_unique<canvas>(width, height, ratio);
-	if (old && old->ratio() == ratio)
-		fresh->take_over(*old);
-	else
-		fState->invalid.add(Bounds());
-	fState->image = std::move(fresh);
-}
-
-
-void
-BView::_Update()
-{
-	if (!_IsPainted() || fState->frame.Width() < 0 || fState->frame.Height() < 0)
-		return;
-	_MakeImage();
-	if (fState->invalid.empty())
-		return;
-	region update;
-	update.swap(fState->invalid);
-	update.intersect(Bounds());
-	if (update.empty())
-		return;
-	drawing_state outside = fState->drawing;
-	fState->updating = &update;
-	fState->drawing.pen = BPoint(0, 0);
-	drawing_context context;
-	_Context(context);
-	if (fState->view_color.alpha != B_TRANSPARENT_COLOR.alpha)
-		context.target->erase(context, update.bounds(), fState->view_color);
-	if (fState->flags & B_WILL_DRAW)
-		Draw(update.bounds());
-	fState->updating = nullptr;
-	fState->drawing = outside;
-}
-
-
-void
-BView::_Publish()
-{
-	if (!fState->image)
-		return;
-	BRect changed = fState->image->publish(*fState->front);
-	if (changed.IsValid())
-		peers::update(fState->widget, fState->front, changed);
-}
-
-
-bool
-BView::_IsPainted() const
-{
-	return true;
 }

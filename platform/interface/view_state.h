@@ -27,6 +27,7 @@ struct view_state {
 
 	rgb_color view_color = {255, 255, 255, 255};
 	drawing_state drawing;
+	std::vector<drawing_state> pushed;
 
 	// In the view's coordinates: what an update must repaint, and what one repaints now.
 	region invalid;

@@ -1,0 +1,399 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+// What is drawn on a canvas.
+#include "display/canvas.h"
+#include "display/convert.h"
+#include "display/display.h"
+#include "display/fonts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+
+using namespace kits;
+
+
+namespace {
+
+// Two values of a pattern's bits as a brush of device pixels. The texture is laid at the brush
+// origin, which the painter sets to the view's own.
+QBrush
+textured(const pattern& p, QRgb one, QRgb zero, int pixel)
+{
+	QImage tile(8 * pixel, 8 * pixel, QImage::Format_RGB32);
+	for (int y = 0; y < tile.height(); y++) {
+		for (int x = 0; x < tile.width(); x++) {
+			bool bit = p.data[y / pixel] >> (7 - x / pixel) & 1;
+			tile.setPixel(x, y, bit ? one : zero);
+		}
+	}
+	return QBrush(tile);
+}
+
+
+bool
+uniform(const pattern& p, uint8 bits)
+{
+	return std::all_of(
+		std::begin(p.data), std::end(p.data), [=](uint8 row) { return row == bits; });
+}
+
+
+// Inverted drawing is an exclusive or with white; where the pattern has no bit, with nothing.
+QBrush
+brush_of(const drawing_state& state, const pattern& p, float ratio)
+{
+	bool invert = state.mode == B_OP_INVERT;
+	QColor one = invert ? QColor(Qt::white) : to_qcolor(state.high);
+	QColor zero = invert ? QColor(Qt::black) : to_qcolor(state.low);
+	if (uniform(p, 0xFF))
+		return one;
+	if (uniform(p, 0x00))
+		return zero;
+	return textured(p, one.rgb(), zero.rgb(), std::max(1, (int)std::lround(ratio)));
+}
+
+
+Qt::PenCapStyle
+cap_of(cap_mode cap)
+{
+	return cap == B_ROUND_CAP ? Qt::RoundCap : cap == B_SQUARE_CAP ? Qt::SquareCap : Qt::FlatCap;
+}
+
+
+// Qt's own miter join measures the limit differently.
+Qt::PenJoinStyle
+join_of(join_mode join)
+{
+	return join == B_ROUND_JOIN ? Qt::RoundJoin
+		: join == B_MITER_JOIN  ? Qt::SvgMiterJoin
+								: Qt::BevelJoin;
+}
+
+
+bool
+finite(BPoint point)
+{
+	return std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+
+bool
+finite(BRect rect)
+{
+	return finite(rect.LeftTop()) && finite(rect.RightBottom());
+}
+
+
+BRect
+in_order(BRect rect)
+{
+	return BRect(std::min(rect.left, rect.right), std::min(rect.top, rect.bottom),
+		std::max(rect.left, rect.right), std::max(rect.top, rect.bottom));
+}
+
+
+// Coordinates are truncated to whole pixels, toward zero.
+BRect
+truncated(BRect rect)
+{
+	return BRect(std::trunc(rect.left), std::trunc(rect.top), std::trunc(rect.right),
+		std::trunc(rect.bottom));
+}
+
+
+BRect
+scaled(const drawing_context& context, BRect rect)
+{
+	float by = context.state->scaled();
+	return BRect(rect.left * by, rect.top * by, rect.right * by, rect.bottom * by);
+}
+
+
+BPoint
+scaled(const drawing_context& context, BPoint point)
+{
+	float by = context.state->scaled();
+	return BPoint(point.x * by, point.y * by);
+}
+
+
+// What a stroke along the box may reach: half a pen's width, and as much again for mitred corners.
+BRect
+inked(const drawing_context& context, BRect box)
+{
+	float reach =
+		1 + context.state->pen_size * context.state->scaled() * context.state->miter_limit;
+	box.InsetBy(-reach, -reach);
+	return box;
+}
+
+}
+
+
+// A painter whose space is the image's device pixels. Geometry is mapped before it is painted:
+// with a transform, thin strokes would land between pixels.
+class canvas::painter : public QPainter {
+public:
+	painter(canvas& target, const drawing_context& context)
+		: QPainter(target.fImage.get()),
+		  fState(*context.state),
+		  fRatio(target.fRatio),
+		  fOffset(context.offset)
+	{
+		QRegion clip(pixels(to_qrect(context.clip)));
+		if (context.update) {
+			QRegion update;
+			QPoint offset((int)fOffset.x, (int)fOffset.y);
+			for (const QRect& rect : context.update->pixels())
+				update += pixels(rect.translated(offset));
+			clip &= update;
+		}
+		setClipRegion(clip);
+		setRenderHint(Antialiasing, false);
+		setBrushOrigin(QPointF(fOffset.x * fRatio, fOffset.y * fRatio));
+		if (context.state->mode == B_OP_INVERT)
+			setCompositionMode(RasterOp_SourceXorDestination);
+	}
+
+	// What strokes are drawn with. One pixel is a hairline, whose round cap draws the last pixel
+	// too; where a kit's pixel is several of the device's, a square cap covers it at both ends.
+	QPen stroke(const pattern& p) const
+	{
+		QBrush brush = brush_of(fState, p, fRatio);
+		float width = fState.pen_size * fState.scaled();
+		if (width <= 1 && fRatio <= 1)
+			return QPen(brush, 0, Qt::SolidLine, Qt::RoundCap);
+		if (width <= 1)
+			return QPen(brush, fRatio, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+		QPen pen(brush, width * fRatio, Qt::SolidLine, cap_of(fState.cap), join_of(fState.join));
+		pen.setMiterLimit(fState.miter_limit);
+		return pen;
+	}
+
+	QBrush fill(const pattern& p) const { return brush_of(fState, p, fRatio); }
+
+	// Canvas pixels to device pixels, whole ones that are touched.
+	QRect pixels(const QRect& rect) const
+	{
+		int left = (int)std::floor(rect.left() * fRatio);
+		int top = (int)std::floor(rect.top() * fRatio);
+		int right = (int)std::ceil((rect.right() + 1) * fRatio);
+		int bottom = (int)std::ceil((rect.bottom() + 1) * fRatio);
+		return QRect(left, top, right - left, bottom - top);
+	}
+
+	QRect view_pixels(BRect rect) const
+	{
+		rect.OffsetBy(fOffset);
+		return pixels(to_qrect(rect));
+	}
+
+	// The middle of the pixel that the point names.
+	QPointF centre(BPoint point) const
+	{
+		return QPointF(
+			(point.x + fOffset.x + 0.5F) * fRatio, (point.y + fOffset.y + 0.5F) * fRatio);
+	}
+
+	// A path of the view's coordinates between pixel centres (strokes) or pixel edges (fills).
+	QPainterPath path(const outline& shape, BPoint by, bool stroked) const
+	{
+		QTransform map;
+		float edge = stroked ? 0.5F : 0;
+		map.scale(fRatio, fRatio);
+		map.translate(fOffset.x + edge, fOffset.y + edge);
+		map.scale(fState.scaled(), fState.scaled());
+		map.translate(by.x, by.y);
+		return map.map(shape.path());
+	}
+
+private:
+	const drawing_state& fState;
+	float fRatio;
+	BPoint fOffset;
+};
+
+
+void
+canvas::erase(const drawing_context& context, BRect rect, rgb_color color)
+{
+	painter paint(*this, context);
+	paint.setCompositionMode(QPainter::CompositionMode_Source);
+	paint.fillRect(paint.view_pixels(rect), to_qcolor(color));
+	_Touched(context, rect);
+}
+
+
+void
+canvas::fill_rect(const drawing_context& context, BRect rect, const pattern& p)
+{
+	if (!finite(rect) || !rect.IsValid())
+		return;
+	rect = truncated(scaled(context, rect));
+	painter paint(*this, context);
+	paint.fillRect(paint.view_pixels(rect), paint.fill(p));
+	_Touched(context, rect);
+}
+
+
+void
+canvas::stroke_line(const drawing_context& context, BPoint from, BPoint to, const pattern& p)
+{
+	if (!finite(from) || !finite(to))
+		return;
+	from = scaled(context, from);
+	to = scaled(context, to);
+	painter paint(*this, context);
+	paint.setPen(paint.stroke(p));
+	paint.drawLine(paint.centre(from), paint.centre(to));
+	_Touched(context, inked(context, in_order(BRect(from, to))));
+}
+
+
+void
+canvas::stroke_rect(const drawing_context& context, BRect rect, const pattern& p)
+{
+	if (!finite(rect))
+		return;
+	rect = truncated(scaled(context, in_order(rect)));
+	// As four bands: a stroked path would draw its corners twice, which inverting shows.
+	float width = std::max(1.0F, std::round(context.state->pen_size * context.state->scaled()));
+	BRect outer = rect;
+	outer.InsetBy(-std::floor((width - 1) / 2), -std::floor((width - 1) / 2));
+	BRect inner = outer;
+	inner.InsetBy(width, width);
+	painter paint(*this, context);
+	QRegion frame(paint.view_pixels(outer));
+	if (inner.IsValid())
+		frame -= paint.view_pixels(inner);
+	QBrush ink = paint.fill(p);
+	for (const QRect& part : frame)
+		paint.fillRect(part, ink);
+	_Touched(context, outer);
+}
+
+
+void
+canvas::stroke_ellipse(const drawing_context& context, BRect rect, const pattern& p)
+{
+	if (!finite(rect))
+		return;
+	rect = scaled(context, in_order(rect));
+	painter paint(*this, context);
+	paint.setPen(paint.stroke(p));
+	paint.drawEllipse(QRectF(paint.centre(rect.LeftTop()), paint.centre(rect.RightBottom())));
+	_Touched(context, inked(context, rect));
+}
+
+
+void
+canvas::fill_ellipse(const drawing_context& context, BRect rect, const pattern& p)
+{
+	if (!finite(rect))
+		return;
+	rect = truncated(scaled(context, in_order(rect)));
+	painter paint(*this, context);
+	paint.setPen(Qt::NoPen);
+	paint.setBrush(paint.fill(p));
+	paint.drawEllipse(paint.view_pixels(rect));
+	_Touched(context, rect);
+}
+
+
+void
+canvas::stroke_path(
+	const drawing_context& context, const outline& shape, BPoint by, const pattern& p)
+{
+	if (shape.path().isEmpty())
+		return;
+	painter paint(*this, context);
+	QPainterPath path = paint.path(shape, by, true);
+	paint.strokePath(path, paint.stroke(p));
+	_TouchedDevice(path.controlPointRect(), inked(context, BRect(0, 0, 0, 0)).Width() / 2);
+}
+
+
+void
+canvas::fill_path(const drawing_context& context, const outline& shape, BPoint by, const pattern& p)
+{
+	if (shape.path().isEmpty())
+		return;
+	painter paint(*this, context);
+	QPainterPath path = paint.path(shape, by, false);
+	path.setFillRule(Qt::WindingFill);
+	paint.fillPath(path, paint.fill(p));
+	_TouchedDevice(path.controlPointRect(), 1);
+}
+
+
+void
+canvas::text(const drawing_context& context, const char* text, int32 length, BPoint baseline)
+{
+	if (!display::running() || !finite(baseline))
+		return;
+	const BFont& font = context.state->font;
+	float scale = context.state->scaled();
+	painter paint(*this, context);
+	paint.setPen(to_qcolor(context.state->high));
+	paint.setFont(screen_font(font.Size(), font.Face() & B_BOLD_FACE));
+	paint.translate(context.offset.x * fRatio, context.offset.y * fRatio);
+	paint.scale(fRatio * scale, fRatio * scale);
+	paint.drawText(QPointF(baseline.x, baseline.y), QString::fromUtf8(text, length));
+	font_height height = text_height(font);
+	float width = text_width(font, text, length);
+	// Some glyphs reach over their advance on both sides.
+	BRect box(baseline.x - height.ascent, baseline.y - 2 * height.ascent,
+		baseline.x + width + height.ascent, baseline.y + 2 * height.descent);
+	_Touched(context, scaled(context, box));
+}
+
+
+void
+canvas::image(const drawing_context& context, const canvas& source, BPoint where)
+{
+	if (!finite(where))
+		return;
+	BRect place(
+		where.x, where.y, where.x + (float)source.fWidth - 1, where.y + (float)source.fHeight - 1);
+	place = truncated(scaled(context, place));
+	painter paint(*this, context);
+	paint.drawImage(paint.view_pixels(place), *source.fImage);
+	_Touched(context, place);
+}
+
+
+outline::outline() : fPath(new QPainterPath) {}
+
+
+outline::~outline() = default;
+
+
+void
+outline::move_to(BPoint point)
+{
+	fPath->moveTo(point.x, point.y);
+}
+
+
+void
+outline::line_to(BPoint point)
+{
+	fPath->lineTo(point.x, point.y);
+}
+
+
+void
+outline::bezier_to(BPoint first, BPoint second, BPoint end)
+{
+	fPath->cubicTo(first.x, first.y, second.x, second.y, end.x, end.y);
+}
+
+
+void
+outline::close()
+{
+	fPath->closeSubpath();
+}
