@@ -86,6 +86,8 @@ public:
 			_DrawBevel(option, painter);
 		else if (element == CE_PushButtonLabel)
 			_DrawLabel(option, painter);
+		else if (element == CE_MenuBarItem && !(option->state & State_Selected))
+			_DrawMenuTitle(option, painter);
 		else
 			QProxyStyle::drawControl(element, option, painter, widget);
 	}
@@ -109,6 +111,15 @@ private:
 		painter->fillRect(option->rect, down ? colours.mid() : colours.light());
 		painter->setPen(focused ? colours.highlight().color() : colours.dark().color());
 		painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+	}
+
+	// Without the base style's line below, which would end where the titles end.
+	static void _DrawMenuTitle(const QStyleOption* option, QPainter* painter)
+	{
+		auto* title = static_cast<const QStyleOptionMenuItem*>(option);
+		painter->fillRect(title->rect, title->palette.window());
+		painter->setPen(title->palette.color(QPalette::WindowText));
+		painter->drawText(title->rect, Qt::AlignCenter | Qt::TextShowMnemonic, title->text);
 	}
 
 	static void _DrawLabel(const QStyleOption* option, QPainter* painter)
