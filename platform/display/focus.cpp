@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "display/focus.h"
 
+#include "display/field_peers.h"
+#include "display/input.h"
+
+#include <QFocusEvent>
 #include <QWidget>
 
 
@@ -25,7 +29,26 @@ kits::leave_quietly(const QWidget& widget)
 
 
 bool
-kits::focus_leaves_quietly()
+kits::focus_moves(const QFocusEvent& event)
 {
-	return quiet;
+	if (quiet)
+		return false;
+	switch (event.reason()) {
+		case Qt::ActiveWindowFocusReason:
+		case Qt::PopupFocusReason:
+		case Qt::MenuBarFocusReason:
+			return false;
+		default:
+			return true;
+	}
+}
+
+
+bool
+kits::walk_focus(int32 looper, bool forward)
+{
+	BMessage message(focus_walks);
+	message.AddBool("forward", forward);
+	post_to(looper, message);
+	return true;
 }

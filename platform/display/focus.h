@@ -3,6 +3,9 @@
 #ifndef KITS_FOCUS_H
 #define KITS_FOCUS_H
 
+#include <SupportDefs.h>
+
+class QFocusEvent;
 class QWidget;
 
 namespace kits {
@@ -11,8 +14,13 @@ namespace kits {
 // widget is about to be hidden or to go, which moves no focus there. Display thread.
 void leave_quietly(const QWidget& widget);
 
-// True while that happens.
-bool focus_leaves_quietly();
+// False for what is no move of the keyboard as far as the kit knows: a window losing activation, a
+// menu opening, a widget that leaves quietly.
+bool focus_moves(const QFocusEvent& event);
+
+// Asks the window who is next in the walk through its controls: the kit decides, not the toolkit.
+// True, so that the toolkit does nothing.
+bool walk_focus(int32 looper, bool forward);
 
 }
 

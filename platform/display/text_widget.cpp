@@ -15,38 +15,10 @@ using namespace kits;
 
 namespace {
 
-// A window losing activation, a menu opening: the field keeps the keyboard as far as the kit knows.
-bool
-counts(const QFocusEvent& event)
-{
-	if (focus_leaves_quietly())
-		return false;
-	switch (event.reason()) {
-		case Qt::ActiveWindowFocusReason:
-		case Qt::PopupFocusReason:
-		case Qt::MenuBarFocusReason:
-			return false;
-		default:
-			return true;
-	}
-}
-
-
 void
 send(report_address report, uint32 what)
 {
 	post_to(report.looper, report.handler, BMessage(what));
-}
-
-
-// The kit decides who is next, not the toolkit.
-bool
-walk(report_address report, bool forward)
-{
-	BMessage message(focus_walks);
-	message.AddBool("forward", forward);
-	post_to(report.looper, message);
-	return true;
 }
 
 }
@@ -109,7 +81,7 @@ void
 button_widget::focusOutEvent(QFocusEvent* event)
 {
 	QPushButton::focusOutEvent(event);
-	if (counts(*event))
+	if (focus_moves(*event))
 		send(fReport, focus_lost);
 }
 
@@ -117,7 +89,7 @@ button_widget::focusOutEvent(QFocusEvent* event)
 bool
 button_widget::focusNextPrevChild(bool next)
 {
-	return walk(fReport, next);
+	return walk_focus(fReport.looper, next);
 }
 
 
@@ -161,7 +133,7 @@ void
 line_widget::focusInEvent(QFocusEvent* event)
 {
 	QLineEdit::focusInEvent(event);
-	if (!counts(*event))
+	if (!focus_moves(*event))
 		return;
 	fSelectOnRelease = event->reason() == Qt::MouseFocusReason;
 	selectAll();
@@ -173,7 +145,7 @@ void
 line_widget::focusOutEvent(QFocusEvent* event)
 {
 	QLineEdit::focusOutEvent(event);
-	if (counts(*event))
+	if (focus_moves(*event))
 		send(fReport, focus_lost);
 }
 
@@ -218,7 +190,7 @@ line_widget::keyPressEvent(QKeyEvent* event)
 bool
 line_widget::focusNextPrevChild(bool next)
 {
-	return walk(fReport, next);
+	return walk_focus(fReport.looper, next);
 }
 
 
