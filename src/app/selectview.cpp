@@ -7,6 +7,7 @@
 #include "app/kernixwindow.h"
 #include "font/bytes.h"
 #include "font/messages.h"
+#include "outline/glyph.h"
 #include <algorithm>
 #include <Bitmap.h>
 #include <cmath>
@@ -30,6 +31,7 @@ selectview::selectview(BRect frame)
 	  tags(),
 	  selected(-1)
 {
+	prepare_clipboard();
 }
 
 

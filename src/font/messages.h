@@ -37,7 +37,14 @@ enum : uint32 {
 	msg_table = 'tsel',
 
 	// A text field of a panel to that panel: its text was confirmed. The fields of a control.
-	msg_changed = 'Vchg'
+	msg_changed = 'Vchg',
+
+	// A button of a panel to that panel: it was pressed. The fields of a control.
+	msg_pressed = 'Bhit',
+
+	// A slider of a panel to that panel: it has been moved, on the way and at the end. The fields
+	// of a control.
+	msg_slider_moved = 'Smov'
 };
 
 #endif

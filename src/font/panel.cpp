@@ -5,6 +5,7 @@
 
 #include "font/messages.h"
 #include "font/ttf_table.h"
+#include <Button.h>
 #include <cstdio>
 #include <Message.h>
 #include <TextControl.h>
@@ -66,6 +67,15 @@ field_text(const ttf_table& table, const panel_field& field)
 }
 
 
+void
+panel_rows(ttf_table* panel, std::span<const panel_field> rows)
+{
+	int row = 0;
+	for (const panel_field& field : rows)
+		panel_row(panel, row++, field.label, field_text(*panel, field).c_str());
+}
+
+
 BTextControl*
 panel_edit(BView* panel, BRect place, const char* name, const char* label, float divider)
 {
@@ -75,6 +85,17 @@ panel_edit(BView* panel, BRect place, const char* name, const char* label, float
 	panel->AddChild(control);
 	control->SetTarget(panel);
 	return control;
+}
+
+
+BButton*
+panel_button(BView* panel, BRect place, const char* name)
+{
+	BButton* button = new BButton(place, name, name, new BMessage(msg_pressed),
+		B_FOLLOW_LEFT | B_FOLLOW_TOP, B_WILL_DRAW | B_NAVIGABLE);
+	panel->AddChild(button);
+	button->SetTarget(panel);
+	return button;
 }
 
 

@@ -6,9 +6,11 @@
 
 #include <cstddef>
 #include <Rect.h>
+#include <span>
 #include <string>
 #include <SupportDefs.h>
 
+class BButton;
 class BTextControl;
 class BView;
 class ttf_table;
@@ -58,10 +60,17 @@ void panel_row(BView* panel, int row, const char* label, const char* value);
 // The value of a field; empty where the table is too short for it.
 std::string field_text(const ttf_table& table, const panel_field& field);
 
+// Lists these rows from row 0 on, each with the value that stands in the panel's bytes.
+void panel_rows(ttf_table* panel, std::span<const panel_field> rows);
+
 // Adds a text field whose message is the panel's 'Vchg', aimed at the panel, and gives it; it
 // becomes the panel's. The panel must be attached. The divider is the width of the label.
 BTextControl* panel_edit(
 	BView* panel, BRect place, const char* name, const char* label, float divider);
+
+// Adds a button, labelled with its name, whose message is the panel's 'Bhit', aimed at the panel,
+// and gives it; it becomes the panel's. The panel must be attached.
+BButton* panel_button(BView* panel, BRect place, const char* name);
 
 // The number typed in a field: true when its text begins with a hexadecimal one.
 bool read_hex(const BTextControl* control, uint32* value);

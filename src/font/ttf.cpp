@@ -58,7 +58,8 @@ read_all(BFile& file, uint32 place, unsigned char* buffer, uint32 size)
 
 
 ttf::ttf()
-	: dir(nullptr),
+	: chrs(nullptr),
+	  dir(nullptr),
 	  os2(nullptr),
 	  cmap(nullptr),
 	  glyf(nullptr),
@@ -96,6 +97,8 @@ ttf::load(BFile& file)
 		destroy();
 		return 1;
 	}
+	// Whatever it finds: a font without a map that is understood shows an empty one.
+	cmap->get_tbl();
 	return 0;
 }
 
@@ -106,6 +109,8 @@ ttf::save(BFile& file)
 	printf("ttf:save\n");
 	if (empty())
 		return 1;
+	if (maxp != nullptr)
+		maxp->update();
 	if (head != nullptr) {
 		head->update();
 		head->setsum(ttf_head::balance);
@@ -187,6 +192,13 @@ ttf::reset_view(BView* parent)
 		if (table != nullptr)
 			parent->RemoveChild(table);
 	}
+}
+
+
+uint32
+ttf::newglyphs() const
+{
+	return chrs != nullptr ? chrs->glyphs : 0;
 }
 
 
@@ -373,6 +385,7 @@ drop(object*& field)
 void
 ttf::destroy()
 {
+	drop(chrs);
 	delete[] dir;
 	dir = nullptr;
 	drop(os2);

@@ -4,10 +4,13 @@
 #ifndef KERNIX_FONT_TTF_H
 #define KERNIX_FONT_TTF_H
 
+#include "font/glyph_info.h"
 #include <Rect.h>
 #include <SupportDefs.h>
+#include <vector>
 
 class BFile;
+class glyph;
 class BView;
 class ttf_table;
 class ttf_cmap;
@@ -24,6 +27,14 @@ class ttf_name;
 class ttf_os2;
 class ttf_post;
 
+// What a new font is to contain, as chosen in the set-up view.
+struct chrs_record {
+	unsigned char ranges[128];  // nonzero for a chosen row of unicode_ranges; the first 71 count
+	unsigned char codes[65536]; // nonzero for a character code that the font is to contain
+	uint32 count;               // the chosen codes
+	uint32 glyphs;              // the same: one glyph for each
+};
+
 // The font in memory: the file's offset table and directory as they stand in the file, and one
 // object per table. Tables keep their bytes in file form, so what nobody models passes through.
 //
@@ -34,7 +45,7 @@ class ttf {
 public:
 	// Empty: every field null.
 	ttf();
-	// Destroys the tables, which must have been detached (reset_view).
+	// Destroys the choice and the tables, which must have been detached (reset_view).
 	~ttf();
 	ttf(const ttf&) = delete;
 	ttf& operator=(const ttf&) = delete;
@@ -43,7 +54,7 @@ public:
 	// version other than 1.0, a directory cut short, a font without cmap, more than sixteen tables
 	// that are not modelled, and lengths out of all proportion to the file. A table that runs past
 	// the end of the file keeps what could be read and zeros after it. Stored checksums are not
-	// examined.
+	// examined. The character map is read.
 	int load(BFile& file);
 
 	// Writes the font, in the order of its directory: 0, or 1 with nothing written for a font
@@ -60,6 +71,23 @@ public:
 	// nothing changed when they do not fit, else 0.
 	int get_tables(int* count, unsigned long* tags) const;
 
+	// From maxp and head; 0 without them.
+	uint32 numglyphs() const;
+	uint16 unitsperem() const;
+
+	// The place of a glyph's record in glyf, bytes. False, with nothing stored, for an index that is
+	// no glyph's or has no place in loca. What is found may lie outside of glyf.
+	bool find_glyph(int index, uint32* offset, uint32* size) const;
+
+	// Appends a glyph's outline to g, in font units; an empty glyph leaves it untouched. 0, or -1
+	// when there is no such glyph.
+	int get_glyph(int index, glyph* g);
+	// Writes g in the place of a glyph and moves those behind it. 0, or -1 with nothing changed
+	// when there is no such glyph or its place is not inside glyf.
+	int set_glyph(int index, const glyph* g);
+	// Statistics of every glyph from 0 on; empty ones for all that have no record.
+	std::vector<glyph_info> glyph_infos() const;
+
 	// No table to save: nothing was loaded, or the load failed.
 	bool empty() const;
 
@@ -70,7 +98,13 @@ public:
 	// window at all.
 	void reset_view(BView* parent);
 
+	// How many glyphs the tables of a new font are made for; none without a choice.
+	uint32 newglyphs() const;
+
 	enum { max_raw = 16 };
+
+	// Owned, made with new by the set-up view; null unless a new font is being set up.
+	chrs_record* chrs;
 
 	// Header and directory in file form, 12 + 16 * numTables bytes. Owned.
 	unsigned char* dir;

@@ -3,8 +3,82 @@
 
 #include "font/ttf_loca.h"
 
+#include "font/malloc32.h"
+#include "font/ttf.h"
+
 
 ttf_loca::ttf_loca(ttf* font, unsigned char* buffer, unsigned long size)
 	: ttf_table(font, 'loca', buffer, size)
 {
+	if (data == nullptr)
+		create_default();
+}
+
+
+void
+ttf_loca::create_default()
+{
+	delete[] data;
+	length = 4 * owner->newglyphs() + 4;
+	data = malloc32((int)length);
+}
+
+
+int
+ttf_loca::get_offset(bool is32, int index, unsigned long* offset, unsigned long* size) const
+{
+	if (!holds(is32, index))
+		return -1;
+	uint32 unit = is32 ? 1 : 2;
+	uint32 start = unit * entry(is32, (uint32)index);
+	uint32 end = length;
+	if (holds(is32, (int64)index + 1))
+		end = unit * entry(is32, (uint32)index + 1);
+	*offset = start;
+	*size = (uint32)(end - start);
+	return 0;
+}
+
+
+// An entry of all ones ends the run, and so does a piece of an entry.
+template <class word, word (*get)(const uint8*), void (*put)(uint8*, word)>
+static void
+shift(uint8* at, const uint8* end, uint32 delta)
+{
+	const word none = (word)~0u;
+	for (; end - at >= (ptrdiff_t)sizeof(word) && get(at) != none; at += sizeof(word))
+		put(at, (word)(get(at) + delta));
+}
+
+
+int
+ttf_loca::chg_length(bool is32, int index, unsigned long size)
+{
+	if (!holds(is32, index))
+		return -1;
+	uint32 later = (uint32)index + 1;
+	// All in the entries' unit: with short offsets an odd length loses its last byte.
+	uint32 unit = is32 ? 1 : 2;
+	uint32 end = holds(is32, later) ? entry(is32, later) : length / unit;
+	uint32 delta = (uint32)size / unit - (end - entry(is32, (uint32)index));
+	if (is32)
+		shift<uint32, get32, ::put32>(data + 4 * later, data + length, delta);
+	else
+		shift<uint16, get16, ::put16>(data + 2 * later, data + length, delta);
+	return 0;
+}
+
+
+// Whether the entry at least begins inside the table; a piece of one reads as 0.
+bool
+ttf_loca::holds(bool is32, int64 index) const
+{
+	return index >= 0 && index * (is32 ? 4 : 2) < (int64)length;
+}
+
+
+uint32
+ttf_loca::entry(bool is32, uint32 index) const
+{
+	return is32 ? u32(4 * index) : u16(2 * index);
 }

@@ -6,12 +6,30 @@
 
 #include "font/ttf_table.h"
 
-// The index to location, loca: where each glyph's outline starts in glyf. Without a panel:
-// never attached.
+// The index to location, loca: where each glyph's outline starts in glyf. One offset for each glyph
+// and one for the end of the last: 32-bit in bytes (the long format), or 16-bit in words of two
+// bytes. Which it is stands in head; every call here names it. Without a panel: never attached.
 class ttf_loca : public ttf_table {
 public:
-	// As for every table: takes the buffer over.
+	// As for every table: takes the buffer over; none means the default content.
 	ttf_loca(ttf* font, unsigned char* buffer, unsigned long size);
+
+	// The content of a new font's table: long offsets, every glyph empty.
+	void create_default();
+
+	// The place of a glyph in glyf, in bytes: 0, or -1 with nothing stored when its entry lies
+	// outside the table. Without a next entry the glyph ends at the byte length of this table, on
+	// purpose. A place that ends before it starts gives a length modulo 2^32.
+	int get_offset(bool is32, int index, unsigned long* offset, unsigned long* size) const;
+
+	// Notes that a glyph now has so many bytes: moves the entries of all later glyphs up to the
+	// first that is all ones, modulo the entries' range. 0, or -1 when the glyph's entry lies
+	// outside the table. The bytes in glyf have been moved before.
+	int chg_length(bool is32, int index, unsigned long size);
+
+private:
+	bool holds(bool is32, int64 index) const;
+	uint32 entry(bool is32, uint32 index) const;
 };
 
 #endif

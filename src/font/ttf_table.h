@@ -48,7 +48,7 @@ public:
 	unsigned char* data; // owned; padded with zeros to a multiple of 4
 	uint32 length;       // without the padding
 
-private:
+protected:
 	bytes all() const { return {data, length}; }
 };
 

@@ -3,8 +3,59 @@
 
 #include "outline/ttf_glyf.h"
 
+#include "font/malloc32.h"
+#include "font/ttf.h"
+#include "outline/glyf_record.h"
+#include <algorithm>
+#include <cstring>
+
 
 ttf_glyf::ttf_glyf(ttf* font, unsigned char* buffer, unsigned long size)
 	: ttf_table(font, 'glyf', buffer, size)
 {
+	if (data == nullptr)
+		create_default();
+}
+
+
+void
+ttf_glyf::create_default()
+{
+	delete[] data;
+	length = 0;
+	data = malloc32(0);
+}
+
+
+int
+ttf_glyf::get_rect(unsigned short index, short* xmin, short* ymin, short* xmax, short* ymax)
+{
+	uint32 offset;
+	uint32 size;
+	if (!owner->find_glyph(index, &offset, &size) || size == 0) {
+		*xmin = *ymin = 32767;
+		*xmax = *ymax = -32768;
+		return 0;
+	}
+	*xmin = s16(offset + at_xmin);
+	*ymin = s16(offset + at_ymin);
+	*xmax = s16(offset + at_xmax);
+	*ymax = s16(offset + at_ymax);
+	return 0;
+}
+
+
+// Puts the record in the place of size bytes at the offset.
+void
+ttf_glyf::splice(uint32 offset, uint32 size, const std::vector<uint8>& record)
+{
+	uint32 tail = length - offset - size;
+	uint32 grown = offset + (uint32)record.size() + tail;
+	unsigned char* fresh = padded32(grown);
+	memcpy(fresh, data, offset);
+	std::copy(record.begin(), record.end(), fresh + offset);
+	memcpy(fresh + offset + record.size(), data + offset + size, tail);
+	delete[] data;
+	data = fresh;
+	length = grown;
 }

@@ -4,13 +4,65 @@
 #ifndef KERNIX_OUTLINE_TTF_GLYF_H
 #define KERNIX_OUTLINE_TTF_GLYF_H
 
+#include "font/glyph_info.h"
 #include "font/ttf_table.h"
+#include <vector>
 
-// The glyph data, glyf: one outline record after the other, found through loca.
+class cursor;
+class glyph;
+
+// The glyph data, glyf: one outline record after the other, found through loca. Converts a record
+// into an editable glyph and back.
+//
+// All operations read within the table whatever a record or loca claims: a damaged record counts as
+// far as its bytes go. A record's stated length only tells whether it is empty. They always answer
+// 0.
 class ttf_glyf : public ttf_table {
 public:
-	// As for every table: takes the buffer over.
+	// As for every table: takes the buffer over. No buffer means an empty table.
 	ttf_glyf(ttf* font, unsigned char* buffer, unsigned long size);
+
+	void create_default();
+
+	// Appends the contours or components of the record to the glyph, in font units, y upward. What
+	// has no room in the glyph, or not all its bytes in the table, is left out and the glyph marked
+	// partial. A composite that contains itself stops at the repetition.
+	// @param offset of the record in the table, bytes
+	// @param size its stated length; 0 does nothing
+	int decode(unsigned long offset, unsigned long size, glyph* g);
+
+	// Writes the glyph in the place of a record; the table's buffer is a new one after that.
+	// A simple record's instructions are kept for a simple glyph.
+	// @param offset of the old record; unchanged
+	// @param size in: the old record's length; out: the new one's, always even
+	// A place that is not inside the table changes nothing.
+	int encode(const glyph* g, unsigned long* offset, unsigned long* size);
+
+	// Statistics of one glyph: component depth (0 for a simple one), components of its own level,
+	// contours and points. All 0 for an empty one and for an index that has no place.
+	int get_info(unsigned short index, unsigned short* depth, unsigned short* components,
+		unsigned short* contours, unsigned short* points);
+
+	// The same of every glyph from 0 on, each worked out once.
+	// @param count how many glyphs there are
+	std::vector<glyph_info> all_info(uint32 count) const;
+
+	// The stored box in font units; (32767, 32767, -32768, -32768) for an empty glyph.
+	int get_rect(unsigned short index, short* xmin, short* ymin, short* xmax, short* ymax);
+
+private:
+	struct descent;
+	struct survey;
+
+	void decode_record(uint32 offset, glyph* g, descent& way) const;
+	void decode_simple(cursor& record, int contours, glyph* g) const;
+	void decode_composite(cursor& record, glyph* g, descent& way) const;
+	glyph* decode_component(uint16 index, int depth, descent& way) const;
+	glyph_info info_of(uint16 index, survey& notes) const;
+	glyph_info record_info(uint16 index, uint32 offset, survey& notes) const;
+	glyph_info composite_info(cursor& record, survey& notes) const;
+	std::vector<uint8> instructions(uint32 offset, unsigned long size) const;
+	void splice(uint32 offset, uint32 size, const std::vector<uint8>& record);
 };
 
 #endif

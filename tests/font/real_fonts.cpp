@@ -66,13 +66,13 @@ TEST_P(real_font, is_saved_as_the_rules_say)
 }
 
 
-TEST_P(real_font, keeps_every_table_but_head_octet_for_octet)
+TEST_P(real_font, keeps_every_table_but_head_and_maxp_octet_for_octet)
 {
 	sfnt before(file);
 	sfnt after(saved(*opened(file)));
 	ASSERT_EQ(before.tags(), after.tags());
 	for (const std::string& tag : before.tags()) {
-		if (tag == "head")
+		if (tag == "head" || tag == "maxp")
 			continue;
 		EXPECT_TRUE(same(before.table(tag), after.table(tag))) << tag;
 	}

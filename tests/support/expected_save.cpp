@@ -6,6 +6,7 @@
 #include <iterator>
 #include <vector>
 
+#include "support/recount.h"
 #include "support/sfnt.h"
 
 // A tag in this list has one object, however many entries name it; any other has one per entry.
@@ -48,6 +49,25 @@ tables_to_write(const sfnt& font)
 }
 
 
+// The last table of a tag, which answers for all of that tag; empty where there is none.
+static octets
+last_table(const sfnt& font, const std::string& tag)
+{
+	octets found;
+	for (const sfnt_entry& entry : font.entries())
+		found = entry.tag == tag ? font.table(entry) : found;
+	return found;
+}
+
+
+static octets
+recounted_maxp(const sfnt& font)
+{
+	return recounted(last_table(font, "maxp"), last_table(font, "glyf"), last_table(font, "loca"),
+		last_table(font, "head"));
+}
+
+
 static void
 stamp(octets& head, uint32_t now)
 {
@@ -73,6 +93,8 @@ expected_save(const octets& file, uint32_t now)
 	uint32_t total = 0;
 	std::vector<octets> tables = tables_to_write(font);
 	for (size_t i = 0; i < tables.size(); i++) {
+		if (font.entries()[i].tag == "maxp")
+			tables[i] = recounted_maxp(font);
 		if (font.entries()[i].tag == "head") {
 			stamp(tables[i], now);
 			adjustment = tables[i].size() >= 12 ? result.size() + 8 : 0;

@@ -64,22 +64,50 @@ to_qt_modifiers(int32 modifiers)
 }
 
 
-// As an event of the display's own, not as one of its commands: what the user does may open loops
-// and grabs that a command must not.
+// Does the user's work as an event of the display's own, not as one of its commands: what the user
+// does may open loops and grabs that a command must not. The work is handed over beside Qt's queue,
+// whose ordering the thread sanitizer cannot see.
+class event_worker : public QObject {
+public:
+	void run(const std::function<void()>& work)
+	{
+		std::binary_semaphore done(0);
+		errand mine{work, done};
+		activity::begin();
+		fErrand = &mine;
+		QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+		done.acquire();
+	}
+
+	bool event(QEvent* event) override
+	{
+		if (event->type() != QEvent::User)
+			return QObject::event(event);
+		errand* next = fErrand;
+		next->work();
+		activity::end();
+		next->done.release();
+		return true;
+	}
+
+private:
+	struct errand {
+		const std::function<void()>& work;
+		std::binary_semaphore& done;
+	};
+	// One user at a time.
+	std::atomic<errand*> fErrand = nullptr;
+};
+
+
+// Made by the display thread before any user starts; never destroyed.
+event_worker* worker = nullptr;
+
+
 void
 as_event(const std::function<void()>& work)
 {
-	std::binary_semaphore done(0);
-	activity::begin();
-	QMetaObject::invokeMethod(
-		qApp,
-		[&] {
-			work();
-			activity::end();
-			done.release();
-		},
-		Qt::QueuedConnection);
-	done.acquire();
+	worker->run(work);
 }
 
 
@@ -167,6 +195,16 @@ robot::on_display(const std::function<void()>& look)
 {
 	settle();
 	display::call(look);
+}
+
+
+void
+robot::act(const std::function<void(QWidget& window)>& work)
+{
+	as_event([&] {
+		if (QWidget* window = _Window())
+			work(*window);
+	});
 }
 
 
@@ -689,6 +727,8 @@ robot::press_question(const std::string& label)
 void
 run_with_user(BApplication& application, const std::function<void(robot&)>& user)
 {
+	if (worker == nullptr)
+		worker = new event_worker;
 	std::atomic<bool> gone = false;
 	std::thread hand([&] {
 		robot mine;

@@ -99,6 +99,9 @@ public:
 	// Presses a button of a question that is shown over a panel.
 	bool press_question(const std::string& button);
 
+	// What a user of the window does beyond that, as one event of the display's own. Waits for that
+	// alone: nothing has settled before or after.
+	void act(const std::function<void(QWidget& window)>& work);
 	// Runs on the display while everything else goes on; for looking at what is not covered above.
 	void on_display(const std::function<void()>& look);
 

@@ -1,0 +1,77 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+// The container's way to single glyphs, through maxp, head, loca and glyf.
+#include "font/ttf.h"
+#include "font/ttf_head.h"
+#include "font/ttf_loca.h"
+#include "font/ttf_maxp.h"
+#include "outline/ttf_glyf.h"
+
+
+uint32
+ttf::numglyphs() const
+{
+	return maxp != nullptr ? maxp->numglyphs() : 0;
+}
+
+
+uint16
+ttf::unitsperem() const
+{
+	return head != nullptr ? head->unitsperem() : 0;
+}
+
+
+bool
+ttf::find_glyph(int index, uint32* offset, uint32* size) const
+{
+	if (index < 0 || (uint32)index >= numglyphs() || loca == nullptr || head == nullptr)
+		return false;
+	unsigned long place;
+	unsigned long length;
+	if (loca->get_offset(head->is32loca(), index, &place, &length) != 0)
+		return false;
+	*offset = (uint32)place;
+	*size = (uint32)length;
+	return true;
+}
+
+
+int
+ttf::get_glyph(int index, glyph* g)
+{
+	uint32 offset;
+	uint32 size;
+	if (glyf == nullptr || !find_glyph(index, &offset, &size))
+		return -1;
+	if (size != 0)
+		glyf->decode(offset, size, g);
+	return 0;
+}
+
+
+int
+ttf::set_glyph(int index, const glyph* g)
+{
+	uint32 offset;
+	uint32 size;
+	if (glyf == nullptr || !find_glyph(index, &offset, &size))
+		return -1;
+	// A place that ends before it starts has a length of nearly 4 GiB.
+	if (offset > glyf->length || size > glyf->length - offset)
+		return -1;
+	unsigned long place = offset;
+	unsigned long length = size;
+	glyf->encode(g, &place, &length);
+	return loca->chg_length(head->is32loca(), index, length);
+}
+
+
+std::vector<glyph_info>
+ttf::glyph_infos() const
+{
+	if (glyf == nullptr)
+		return std::vector<glyph_info>(numglyphs());
+	return glyf->all_info(numglyphs());
+}

@@ -1,0 +1,121 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+// Statistics of glyf records.
+#include "font/cursor.h"
+#include "font/ttf.h"
+#include "outline/glyf_record.h"
+#include "outline/ttf_glyf.h"
+#include <algorithm>
+#include <optional>
+
+
+// What one call has found out, and the way down to the record at hand.
+struct ttf_glyf::survey {
+	// By glyph, filled in as they are worked out; empty when nothing is kept.
+	std::vector<std::optional<glyph_info>> known;
+	std::vector<uint16> path;
+	uint32 visits = 0;
+};
+
+
+int
+ttf_glyf::get_info(unsigned short index, unsigned short* depth, unsigned short* components,
+	unsigned short* contours, unsigned short* points)
+{
+	survey notes;
+	glyph_info info = info_of(index, notes);
+	*depth = info.depth;
+	*components = info.components;
+	*contours = info.contours;
+	*points = info.points;
+	return 0;
+}
+
+
+std::vector<glyph_info>
+ttf_glyf::all_info(uint32 count) const
+{
+	survey notes;
+	notes.known.resize(count);
+	std::vector<glyph_info> infos(count);
+	for (uint32 i = 0; i < count; i++) {
+		notes.visits = 0;
+		infos[i] = info_of((uint16)i, notes);
+	}
+	return infos;
+}
+
+
+// Empty for what has no place, contains itself or lies too deep.
+glyph_info
+ttf_glyf::info_of(uint16 index, survey& notes) const
+{
+	glyph_info info = {};
+	bool kept = index < notes.known.size();
+	if (kept && notes.known[index])
+		return *notes.known[index];
+	uint32 offset;
+	uint32 size;
+	bool repeated = std::find(notes.path.begin(), notes.path.end(), index) != notes.path.end();
+	if (repeated || (int)notes.path.size() > deepest)
+		return info;
+	if (owner->find_glyph(index, &offset, &size) && size != 0)
+		info = record_info(index, offset, notes);
+	if (kept)
+		notes.known[index] = info;
+	return info;
+}
+
+
+glyph_info
+ttf_glyf::record_info(uint16 index, uint32 offset, survey& notes) const
+{
+	cursor record(all(), offset);
+	int contours = record.s16();
+	if (contours < 0) {
+		record.skip(record_header - 2);
+		notes.path.push_back(index);
+		glyph_info info = composite_info(record, notes);
+		notes.path.pop_back();
+		return info;
+	}
+	// The last point's number plus one. Without contours that word is yMax: not a special case.
+	record.skip(at_ymax - 2 + 2 * (uint32)contours);
+	uint16 last = record.u16();
+	return {0, 0, (uint16)contours, (uint16)(record.failed() ? 0 : last + 1)};
+}
+
+
+static uint32
+placement_size(uint16 flags)
+{
+	uint32 size = flags & args_are_words ? 4 : 2;
+	if (flags & has_scale)
+		return size + 2;
+	if (flags & has_x_and_y_scale)
+		return size + 4;
+	return flags & has_two_by_two ? size + 8 : size;
+}
+
+
+glyph_info
+ttf_glyf::composite_info(cursor& record, survey& notes) const
+{
+	glyph_info sum = {};
+	uint16 flags = more_components;
+	while (flags & more_components) {
+		flags = record.u16();
+		uint16 index = record.u16();
+		record.skip(placement_size(flags));
+		if (record.failed() || ++notes.visits > most_visits)
+			break;
+		glyph_info part = info_of(index, notes);
+		sum.components++;
+		sum.contours += part.contours;
+		sum.points += part.points;
+		sum.depth = std::max(sum.depth, part.depth);
+	}
+	sum.depth++;
+	return sum;
+}
