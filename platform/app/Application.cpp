@@ -45,6 +45,7 @@ BApplication::Run()
 	if (refs.HasRef("refs"))
 		PostMessage(&refs);
 	PostMessage(B_READY_TO_RUN);
+	_StartWindows();
 	activity::begin();
 	fState->started = true;
 	fState->thread = std::thread([this] {
@@ -54,7 +55,6 @@ BApplication::Run()
 	});
 	while (IsLocked())
 		Unlock();
-	_StartWindows();
 	display::serve();
 	_Join();
 	display::drain();
@@ -71,8 +71,15 @@ BApplication::_StartWindows()
 		fStarted = true;
 		waiting = fWindows;
 	}
+	// All locks are had before any thread runs: this one must not wait for those that will wait for
+	// the display. The birth lock of a window that was never shown goes, too.
 	for (BWindow* window : waiting)
+		window->Lock();
+	for (BWindow* window : waiting) {
 		window->_StartIfShown();
+		while (window->IsLocked())
+			window->_GiveUpLock();
+	}
 }
 
 

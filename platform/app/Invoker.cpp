@@ -20,7 +20,8 @@ BInvoker::~BInvoker() = default;
 status_t
 BInvoker::SetMessage(BMessage* message)
 {
-	fMessage.reset(message);
+	if (message != fMessage.get())
+		fMessage.reset(message);
 	return B_OK;
 }
 

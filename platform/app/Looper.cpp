@@ -14,6 +14,31 @@
 using namespace kits;
 
 
+namespace {
+
+// Takes no lock and no message any more. The lock is held.
+void
+close(looper_state& state, int32 token)
+{
+	state.gone = true;
+	state.messages->close();
+	registry::set_port(token, nullptr);
+}
+
+
+// A thread that is inside of Lock(): the looper's state must not go before it has its answer.
+class waiting_mark {
+public:
+	explicit waiting_mark(looper_state& state) : fWaiting(state.waiting) { fWaiting++; }
+	~waiting_mark() { fWaiting--; }
+
+private:
+	std::atomic<int32>& fWaiting;
+};
+
+}
+
+
 BLooper::BLooper(const char* name) : BHandler(name), fState(new looper_state)
 {
 	fLooper = this;
@@ -25,13 +50,16 @@ BLooper::BLooper(const char* name) : BHandler(name), fState(new looper_state)
 
 BLooper::~BLooper()
 {
-	fState->messages->close();
 	_Join();
+	close(*fState, fToken);
+	for (BHandler* handler : registry::handlers_of(fToken))
+		RemoveHandler(handler);
 	registry::set_looper(fToken, -1);
-	registry::set_port(fToken, nullptr);
 	fLooper = nullptr;
 	while (IsLocked())
 		_GiveUpLock();
+	while (fState->waiting > 0)
+		std::this_thread::yield();
 }
 
 
@@ -131,10 +159,14 @@ BLooper::RemoveHandler(BHandler* handler)
 thread_id
 BLooper::Run()
 {
+	if (!Lock())
+		return B_ERROR;
 	_StartThread();
-	while (IsLocked())
+	// With the last turn of the lock the looper may end and delete itself.
+	thread_id number = Thread();
+	for (int32 turns = fState->depth; turns > 0; turns--)
 		Unlock();
-	return Thread();
+	return number;
 }
 
 
@@ -156,13 +188,23 @@ BLooper::QuitRequested()
 void
 BLooper::Quit()
 {
-	if (_HasThread() && std::this_thread::get_id() == fState->thread_id.load()) {
-		fState->delete_at_end = true;
+	if (!IsLocked() && !Lock())
+		return;
+	if (!_HasThread()) {
+		delete this;
+		return;
+	}
+	// The thread is the one that deletes, however many have asked for it.
+	fState->delete_at_end = true;
+	if (std::this_thread::get_id() == fState->thread_id.load()) {
 		_EndLoop();
 		return;
 	}
-	_EndLoop();
-	delete this;
+	std::shared_ptr<std::latch> deleted = fState->deleted;
+	PostMessage(_QUIT_);
+	for (int32 turns = fState->depth; turns > 0; turns--)
+		Unlock();
+	deleted->wait();
 }
 
 
@@ -170,8 +212,9 @@ void
 BLooper::_EndLoop()
 {
 	if (!_HasThread()) {
-		fState->gone = true;
-		fState->messages->close();
+		close(*fState, fToken);
+		while (IsLocked())
+			_GiveUpLock();
 		return;
 	}
 	if (std::this_thread::get_id() == fState->thread_id.load()) {
@@ -196,6 +239,7 @@ status_t
 BLooper::LockWithTimeout(bigtime_t timeout)
 {
 	assert(!display::serving_here() && "the display thread waits for nobody");
+	waiting_mark mark(*fState);
 	if (timeout == B_INFINITE_TIMEOUT)
 		fState->lock.lock();
 	else if (!fState->lock.try_lock_for(std::chrono::microseconds(timeout)))
@@ -260,11 +304,12 @@ BLooper::_HasThread() const
 void
 BLooper::_Join()
 {
-	if (!fState->thread.joinable())
-		return;
-	if (std::this_thread::get_id() == fState->thread_id.load())
+	if (_HasThread() && std::this_thread::get_id() == fState->thread_id.load()) {
 		fState->thread.detach();
-	else
+		return;
+	}
+	std::lock_guard guard(fState->joining);
+	if (fState->thread.joinable())
 		fState->thread.join();
 }
 
@@ -282,14 +327,16 @@ BLooper::_Loop()
 		Lock();
 		_Handle(next);
 		if (fState->ending)
-			fState->gone = true;
+			close(*fState, fToken);
 		Unlock();
 		next.message.reset();
 		activity::end();
 	}
-	fState->messages->close();
-	if (fState->delete_at_end)
-		delete this;
+	if (!fState->delete_at_end)
+		return;
+	std::shared_ptr<std::latch> deleted = fState->deleted;
+	delete this;
+	deleted->count_down();
 }
 
 

@@ -236,7 +236,8 @@ BMessage::FindMessage(const char* name, int32 index, BMessage* out) const
 {
 	const std::shared_ptr<const BMessage>* found;
 	status_t status = _Find(name, index, &found);
-	*out = found ? **found : BMessage();
+	// A copy of its own first: the output may be the very message that holds what is found.
+	*out = found ? BMessage(**found) : BMessage();
 	return status;
 }
 

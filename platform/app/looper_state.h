@@ -7,6 +7,7 @@
 #include "app/port.h"
 
 #include <atomic>
+#include <latch>
 #include <mutex>
 #include <thread>
 
@@ -20,15 +21,20 @@ struct looper_state {
 	std::atomic<std::thread::id> owner{};
 	int32 depth = 0;
 	bool gone = false;
+	// Threads inside of Lock(). The state outlives them.
+	std::atomic<int32> waiting{0};
 	// A window's: it has quit, though its object waits for the application's end.
 	std::atomic<bool> retired{false};
 
-	// The thread: made and joined with the lock held once. Ending is the looper's own thread's.
+	// The thread: made with the lock held. Several may wait for its end, one after the other.
 	std::thread thread;
+	std::mutex joining;
 	std::atomic<bool> started{false};
 	std::atomic<std::thread::id> thread_id{};
+	// The thread's own; who waits for a looper that deletes itself needs something that stays.
 	bool ending = false;
 	bool delete_at_end = false;
+	std::shared_ptr<std::latch> deleted = std::make_shared<std::latch>(1);
 
 	BMessage* current = nullptr;
 	BHandler* preferred = nullptr;

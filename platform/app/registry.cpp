@@ -87,6 +87,20 @@ registry::find(int32 token, int32 looper)
 }
 
 
+std::vector<BHandler*>
+registry::handlers_of(int32 looper)
+{
+	table& all = everyone();
+	std::lock_guard guard(all.lock);
+	std::vector<BHandler*> found;
+	for (const auto& [token, each] : all.records) {
+		if (each.looper == looper)
+			found.push_back(each.handler);
+	}
+	return found;
+}
+
+
 void
 registry::set_port(int32 looper, std::shared_ptr<port> messages)
 {

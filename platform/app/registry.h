@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <SupportDefs.h>
+#include <vector>
 
 class BHandler;
 class BLooper;
@@ -29,6 +30,8 @@ void set_looper(int32 token, int32 looper);
 int32 looper_of(int32 token);
 // The handler if it still belongs to that looper, else null.
 BHandler* find(int32 token, int32 looper);
+// All that belong to that looper, itself included.
+std::vector<BHandler*> handlers_of(int32 looper);
 
 void set_port(int32 looper, std::shared_ptr<port> messages);
 // Null when the looper has gone.

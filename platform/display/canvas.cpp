@@ -12,8 +12,43 @@
 #include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
+#include <QPainterPath>
 
 using namespace kits;
+
+
+outline::outline() : fPath(new QPainterPath) {}
+
+
+outline::~outline() = default;
+
+
+void
+outline::move_to(BPoint point)
+{
+	fPath->moveTo(point.x, point.y);
+}
+
+
+void
+outline::line_to(BPoint point)
+{
+	fPath->lineTo(point.x, point.y);
+}
+
+
+void
+outline::bezier_to(BPoint first, BPoint second, BPoint end)
+{
+	fPath->cubicTo(first.x, first.y, second.x, second.y, end.x, end.y);
+}
+
+
+void
+outline::close()
+{
+	fPath->closeSubpath();
+}
 
 
 front_image::front_image() = default;

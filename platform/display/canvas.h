@@ -68,6 +68,8 @@ struct drawing_context {
 	BRect clip;
 	// What an update repaints, in the view's coordinates; null outside updates.
 	const region* update = nullptr;
+	// Canvas pixels that other views lie over; null for none.
+	std::unique_ptr<region> covered;
 };
 
 // What a peer shows: written by the looper's thread, read by the display, both under the lock and

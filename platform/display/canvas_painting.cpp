@@ -151,6 +151,10 @@ public:
 				update += pixels(rect.translated(offset));
 			clip &= update;
 		}
+		if (context.covered) {
+			for (const QRect& rect : context.covered->pixels())
+				clip -= pixels(rect);
+		}
 		setClipRegion(clip);
 		setRenderHint(Antialiasing, false);
 		setBrushOrigin(QPointF(fOffset.x * fRatio, fOffset.y * fRatio));
@@ -164,7 +168,7 @@ public:
 	{
 		QBrush brush = brush_of(fState, p, fRatio);
 		float width = fState.pen_size * fState.scaled();
-		if (width <= 1 && fRatio <= 1)
+		if (_Hairline())
 			return QPen(brush, 0, Qt::SolidLine, Qt::RoundCap);
 		if (width <= 1)
 			return QPen(brush, fRatio, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
@@ -198,11 +202,17 @@ public:
 			(point.x + fOffset.x + 0.5F) * fRatio, (point.y + fOffset.y + 0.5F) * fRatio);
 	}
 
+	// Where a line has its ends. Hairlines stay a little before the middle: from the very middle
+	// Qt rounds single points and rising lines to the pixel beyond.
+	QPointF line_end(BPoint point) const { return centre(point) - _Short(); }
+
 	// A path of the view's coordinates between pixel centres (strokes) or pixel edges (fills).
 	QPainterPath path(const outline& shape, BPoint by, bool stroked) const
 	{
 		QTransform map;
 		float edge = stroked ? 0.5F : 0;
+		if (stroked)
+			map.translate(-_Short().x(), -_Short().y());
 		map.scale(fRatio, fRatio);
 		map.translate(fOffset.x + edge, fOffset.y + edge);
 		map.scale(fState.scaled(), fState.scaled());
@@ -211,6 +221,9 @@ public:
 	}
 
 private:
+	bool _Hairline() const { return fState.pen_size * fState.scaled() <= 1 && fRatio <= 1; }
+	QPointF _Short() const { return _Hairline() ? QPointF(1.0 / 64, 1.0 / 64) : QPointF(); }
+
 	const drawing_state& fState;
 	float fRatio;
 	BPoint fOffset;
@@ -248,7 +261,7 @@ canvas::stroke_line(const drawing_context& context, BPoint from, BPoint to, cons
 	to = scaled(context, to);
 	painter paint(*this, context);
 	paint.setPen(paint.stroke(p));
-	paint.drawLine(paint.centre(from), paint.centre(to));
+	paint.drawLine(paint.line_end(from), paint.line_end(to));
 	_Touched(context, inked(context, in_order(BRect(from, to))));
 }
 
@@ -362,38 +375,4 @@ canvas::image(const drawing_context& context, const canvas& source, BPoint where
 	painter paint(*this, context);
 	paint.drawImage(paint.view_pixels(place), *source.fImage);
 	_Touched(context, place);
-}
-
-
-outline::outline() : fPath(new QPainterPath) {}
-
-
-outline::~outline() = default;
-
-
-void
-outline::move_to(BPoint point)
-{
-	fPath->moveTo(point.x, point.y);
-}
-
-
-void
-outline::line_to(BPoint point)
-{
-	fPath->lineTo(point.x, point.y);
-}
-
-
-void
-outline::bezier_to(BPoint first, BPoint second, BPoint end)
-{
-	fPath->cubicTo(first.x, first.y, second.x, second.y, end.x, end.y);
-}
-
-
-void
-outline::close()
-{
-	fPath->closeSubpath();
 }

@@ -3,6 +3,7 @@
 #include "display/field_peers.h"
 
 #include "display/display.h"
+#include "display/focus.h"
 #include "display/text_widget.h"
 #include "display/view_widget.h"
 
@@ -72,9 +73,11 @@ field_peers::set_text(const peer_ref& field, const std::string& text, int32 seri
 
 
 void
-field_peers::focus(const peer_ref& window, const peer_ref& control)
+field_peers::focus(const peer_ref& window, const peer_ref& control, int32 serial)
 {
 	display::post([=] {
+		if (window->widget)
+			set_focus_serial(*window->widget, serial);
 		QWidget* wanted = control ? control->widget : nullptr;
 		if (wanted && wanted->focusProxy())
 			wanted = wanted->focusProxy();

@@ -12,7 +12,7 @@ namespace kits {
 constexpr uint32 control_invoked = '_INV';
 constexpr uint32 field_edited = '_EDT';  // string "text", int32 "serial"
 constexpr uint32 field_entered = '_ENT'; // the same, on Enter
-// From anything that can hold the keyboard on the display.
+// From anything that can hold the keyboard on the display: int32 "serial", see focus().
 constexpr uint32 focus_gained = '_FGN';
 constexpr uint32 focus_lost = '_FLS';
 // To the window: bool "forward", when Tab is pressed in such a peer.
@@ -32,8 +32,8 @@ void set_text_look(const peer_ref& field, const control_look& look, float divide
 void set_text(const peer_ref& field, const std::string& text, int32 serial);
 
 // Gives the peer the display's keyboard focus. Where it cannot hold it, or is null, the window has
-// it: keys then go to the kit.
-void focus(const peer_ref& window, const peer_ref& control);
+// it: keys then go to the kit. The serial comes back with what is reported from then on.
+void focus(const peer_ref& window, const peer_ref& control, int32 serial);
 
 }
 }

@@ -39,6 +39,8 @@ public:
 			folder = last_folder();
 		if (!folder.isEmpty())
 			setDirectory(folder);
+		// Wide enough for sizes and dates in full.
+		resize(760, 440);
 	}
 
 protected:

@@ -6,12 +6,15 @@
 #include "display/input.h"
 
 #include <QFocusEvent>
+#include <QVariant>
 #include <QWidget>
 
 
 namespace {
 
 bool quiet = false;
+
+constexpr const char* serial_property = "focus_serial";
 
 }
 
@@ -41,6 +44,24 @@ kits::focus_moves(const QFocusEvent& event)
 		default:
 			return true;
 	}
+}
+
+
+void
+kits::report_focus(const QWidget& widget, const QFocusEvent& event, report_address report)
+{
+	if (!focus_moves(event))
+		return;
+	BMessage message(event.gotFocus() ? focus_gained : focus_lost);
+	message.AddInt32("serial", widget.window()->property(serial_property).toInt());
+	post_to(report.looper, report.handler, message);
+}
+
+
+void
+kits::set_focus_serial(QWidget& window, int32 serial)
+{
+	window.setProperty(serial_property, serial);
 }
 
 

@@ -126,11 +126,12 @@ private:
 	{
 		auto* button = static_cast<const QStyleOptionButton*>(option);
 		QRect room = button->rect.adjusted(button_margin, 0, -button_margin, 0);
-		QString text = button->fontMetrics.elidedText(button->text, Qt::ElideRight, room.width());
+		QString text = button->fontMetrics.elidedText(
+			button->text, Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
 		bool enabled = button->state & State_Enabled;
 		painter->setPen(button->palette.color(
 			enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-		painter->drawText(room, Qt::AlignCenter | Qt::TextSingleLine, text);
+		painter->drawText(room, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextHideMnemonic, text);
 	}
 };
 

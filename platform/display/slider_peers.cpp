@@ -84,14 +84,13 @@ protected:
 	void focusInEvent(QFocusEvent* event) override
 	{
 		QSlider::focusInEvent(event);
-		post_to(fReport.looper, fReport.handler, BMessage(focus_gained));
+		report_focus(*this, *event, fReport);
 	}
 
 	void focusOutEvent(QFocusEvent* event) override
 	{
 		QSlider::focusOutEvent(event);
-		if (focus_moves(*event))
-			post_to(fReport.looper, fReport.handler, BMessage(focus_lost));
+		report_focus(*this, *event, fReport);
 	}
 
 	bool focusNextPrevChild(bool next) override { return walk_focus(fReport.looper, next); }

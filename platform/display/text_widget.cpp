@@ -6,8 +6,10 @@
 #include "display/focus.h"
 #include "display/input.h"
 #include "display/look.h"
+#include "display/modifiers.h"
 
 #include <AppDefs.h>
+#include <InterfaceDefs.h>
 #include <QKeyEvent>
 
 using namespace kits;
@@ -73,7 +75,7 @@ void
 button_widget::focusInEvent(QFocusEvent* event)
 {
 	QPushButton::focusInEvent(event);
-	send(fReport, focus_gained);
+	report_focus(*this, *event, fReport);
 }
 
 
@@ -81,8 +83,7 @@ void
 button_widget::focusOutEvent(QFocusEvent* event)
 {
 	QPushButton::focusOutEvent(event);
-	if (focus_moves(*event))
-		send(fReport, focus_lost);
+	report_focus(*this, *event, fReport);
 }
 
 
@@ -137,7 +138,7 @@ line_widget::focusInEvent(QFocusEvent* event)
 		return;
 	fSelectOnRelease = event->reason() == Qt::MouseFocusReason;
 	selectAll();
-	send(fReport, focus_gained);
+	report_focus(*this, *event, fReport);
 }
 
 
@@ -145,8 +146,7 @@ void
 line_widget::focusOutEvent(QFocusEvent* event)
 {
 	QLineEdit::focusOutEvent(event);
-	if (focus_moves(*event))
-		send(fReport, focus_lost);
+	report_focus(*this, *event, fReport);
 }
 
 
@@ -163,8 +163,9 @@ line_widget::mouseReleaseEvent(QMouseEvent* event)
 void
 line_widget::keyPressEvent(QKeyEvent* event)
 {
-	// The platform's Command key is Alt; the desktop's own shortcuts work as ever.
-	if (event->modifiers() != Qt::AltModifier) {
+	// With the platform's Command key a letter is a shortcut or nothing; the desktop's own shortcuts
+	// work as ever.
+	if (!(modifiers_of(event->modifiers()) & B_COMMAND_KEY)) {
 		QLineEdit::keyPressEvent(event);
 		return;
 	}

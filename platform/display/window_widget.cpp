@@ -103,6 +103,14 @@ window_widget::keyReleaseEvent(QKeyEvent* event)
 }
 
 
+// Tab is a key like others; where it leads the kit decides.
+bool
+window_widget::focusNextPrevChild(bool)
+{
+	return false;
+}
+
+
 void
 window_widget::dragEnterEvent(QDragEnterEvent* event)
 {

@@ -1,5 +1,6 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
+#include "app/activity.h"
 #include "app/looper_state.h"
 #include "display/alert_dialog.h"
 #include "interface/window_state.h"
@@ -23,22 +24,42 @@ struct alert_wait {
 	std::mutex lock;
 	std::condition_variable changed;
 	std::optional<int32> answer;
+	// The waiting looper's dispatch does not count as activity: the program is idle until the user
+	// answers.
+	bool resting = false;
 
 	void end(int32 with)
 	{
 		std::lock_guard guard(lock);
-		if (!answer)
-			answer = with;
+		if (answer)
+			return;
+		answer = with;
+		if (resting)
+			activity::begin();
 		changed.notify_all();
 	}
 
-	int32 wait()
+	int32 wait(bool dispatching)
 	{
 		std::unique_lock guard(lock);
+		resting = dispatching && !answer;
+		if (resting)
+			activity::end();
 		changed.wait(guard, [this] { return answer.has_value(); });
 		return *answer;
 	}
 };
+
+
+// Whether a looper of the program is the caller.
+bool
+in_a_dispatch()
+{
+	bool found = be_app->IsLocked();
+	for (int32 i = 0; BWindow* window = be_app->WindowAt(i); i++)
+		found |= window->IsLocked();
+	return found;
+}
 
 
 alert_icon
@@ -85,7 +106,7 @@ BAlert::Go()
 	auto dialog = alert_dialogs::show(
 		{fWindow->title, fText, fButtons, icon_of(fType), fWidth != B_WIDTH_FROM_LABEL},
 		[wait](int index) { wait->end(index); });
-	int32 answer = wait->wait();
+	int32 answer = wait->wait(in_a_dispatch());
 	application->watch(0, nullptr);
 	if (answer < 0)
 		alert_dialogs::dismiss(dialog);

@@ -95,27 +95,24 @@ BControl::Invoke(BMessage* message)
 void
 BControl::AttachedToWindow()
 {
-	BView* parent = fState->parent;
-	SetViewColor(parent->ViewColor());
-	SetLowColor(parent->LowColor());
-	if (!Messenger().IsValid())
+	if (const BView* parent = fState->parent) {
+		SetViewColor(parent->ViewColor());
+		SetLowColor(parent->LowColor());
+	}
+	if (Window() && !Messenger().IsValid())
 		SetTarget(Window());
 	// Made with the window's colours; these are the parent's.
 	_TellPeer();
 }
 
 
-// The keyboard on the display has moved on its own; the kit follows.
 void
 BControl::MessageReceived(BMessage* message)
 {
 	switch (message->what) {
 		case focus_gained:
-			Window()->_FollowFocus(this);
-			break;
 		case focus_lost:
-			if (IsFocus())
-				Window()->_FollowFocus(nullptr);
+			Window()->_FocusReported(*message, this);
 			break;
 		default:
 			BView::MessageReceived(message);

@@ -393,9 +393,15 @@ BView::KeyUp(const char*, int32)
 void
 BView::MakeFocus(bool focus)
 {
-	if (!fState->window || focus == IsFocus())
+	BWindow* window = fState->window;
+	if (!window || focus == IsFocus())
 		return;
-	fState->window->_SetFocus(focus ? this : nullptr);
+	// Forgotten before the window is told, who would call this hook a second time.
+	if (!focus) {
+		window->fWindow->focus = nullptr;
+		window->SetPreferredHandler(nullptr);
+	}
+	window->_SetFocus(focus ? this : nullptr);
 }
 
 

@@ -15,14 +15,15 @@ using namespace kits;
 
 namespace {
 
-// How far an edge moves whose rule is the digit, when its parent grows by delta.
+// How far an edge moves whose rule is the digit, when its parent has grown by delta to a length in
+// pixels. Followed is the middle of the length, so that odd steps add up and are taken back.
 float
-edge_step(uint32 mode, int digit, uint32 follow, float delta)
+edge_step(uint32 mode, int digit, uint32 follow, float length, float delta)
 {
 	uint32 rule = mode >> (4 * digit) & 0xF;
 	if (rule == follow)
 		return delta;
-	return rule == 5 ? std::floor(delta / 2) : 0;
+	return rule == 5 ? std::floor(length / 2) - std::floor((length - delta) / 2) : 0;
 }
 
 enum { right_digit, bottom_digit, left_digit, top_digit };
@@ -135,7 +136,8 @@ void
 BView::_SetFrame(BRect frame)
 {
 	BRect before = fState->frame;
-	if (frame == before)
+	bool finite = std::isfinite(frame.left + frame.top + frame.right + frame.bottom);
+	if (frame == before || !finite)
 		return;
 	fState->frame = frame;
 	if (fState->widget && fState->parent)
@@ -161,10 +163,12 @@ BView::_FollowParent(float dx, float dy)
 {
 	uint32 mode = fState->resizing;
 	BRect frame = fState->frame;
-	frame.left += edge_step(mode, left_digit, follow_right, dx);
-	frame.right += edge_step(mode, right_digit, follow_right, dx);
-	frame.top += edge_step(mode, top_digit, follow_bottom, dy);
-	frame.bottom += edge_step(mode, bottom_digit, follow_bottom, dy);
+	float width = fState->parent->Frame().Width() + 1;
+	float height = fState->parent->Frame().Height() + 1;
+	frame.left += edge_step(mode, left_digit, follow_right, width, dx);
+	frame.right += edge_step(mode, right_digit, follow_right, width, dx);
+	frame.top += edge_step(mode, top_digit, follow_bottom, height, dy);
+	frame.bottom += edge_step(mode, bottom_digit, follow_bottom, height, dy);
 	_SetFrame(frame);
 }
 

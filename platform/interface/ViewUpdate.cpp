@@ -4,11 +4,29 @@
 #include "interface/view_state.h"
 #include "interface/window_state.h"
 
+#include <algorithm>
 #include <cmath>
 #include <View.h>
 #include <Window.h>
 
 using namespace kits;
+
+
+namespace {
+
+using views = std::vector<BView*>;
+
+// Adds the places of those from the first on that are not hidden.
+void
+cover(region& covered, const views& all, views::const_iterator first)
+{
+	for (; first != all.end(); ++first) {
+		if (!(*first)->IsHidden(*first))
+			covered.add((*first)->Frame());
+	}
+}
+
+}
 
 
 void
@@ -66,7 +84,8 @@ BView::_Context(drawing_context& context) const
 }
 
 
-// In a bitmap all views share its pixels, each within its ancestors.
+// In a bitmap all views share its pixels: each within its ancestors, under its children and under
+// the siblings in front of it and of them.
 bool
 BView::_OffscreenContext(drawing_context& context) const
 {
@@ -76,11 +95,16 @@ BView::_OffscreenContext(drawing_context& context) const
 	context.state = &fState->drawing;
 	BPoint origin(0, 0);
 	BRect clip = Bounds();
-	for (const BView* view = this; view->fState->parent; view = view->fState->parent) {
+	context.covered = std::make_unique<region>();
+	cover(*context.covered, fState->children, fState->children.begin());
+	for (const BView* view = this; BView* parent = view->fState->parent; view = parent) {
 		clip = clip & view->Bounds();
 		BPoint step = view->ConvertToParent(BPoint(0, 0));
 		origin += step;
 		clip.OffsetBy(step);
+		context.covered->move(step.x, step.y);
+		const auto& siblings = parent->fState->children;
+		cover(*context.covered, siblings, ++std::find(siblings.begin(), siblings.end(), view));
 	}
 	context.offset = origin;
 	context.clip = clip;

@@ -370,6 +370,7 @@ BWindow::CurrentFocus() const
 void
 BWindow::_SetFocus(BView* view)
 {
+	fWindow->focus_serial++;
 	_FollowFocus(view);
 	if (fWindow->focus == view)
 		_TellFocus();
@@ -381,7 +382,8 @@ BWindow::_TellFocus()
 {
 	BView* view = fWindow->focus;
 	if (fWindow->widget)
-		field_peers::focus(fWindow->widget, view ? view->fState->widget : nullptr);
+		field_peers::focus(
+			fWindow->widget, view ? view->fState->widget : nullptr, fWindow->focus_serial);
 }
 
 
@@ -398,6 +400,20 @@ BWindow::_FollowFocus(BView* view)
 	}
 	fWindow->focus = view;
 	SetPreferredHandler(view);
+}
+
+
+// The keyboard on the display has moved on its own; the kit follows, unless the program has moved
+// it since.
+void
+BWindow::_FocusReported(const BMessage& report, BView* view)
+{
+	if (report.FindInt32("serial") != fWindow->focus_serial)
+		return;
+	if (report.what == focus_gained)
+		_FollowFocus(view);
+	else if (fWindow->focus == view)
+		_FollowFocus(nullptr);
 }
 
 

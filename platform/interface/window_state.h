@@ -41,6 +41,8 @@ struct window_state {
 	bigtime_t pulse_rate = 500000;
 
 	BView* focus = nullptr;
+	// Counts the program's own changes of it: what the display reports from before the last is old.
+	int32 focus_serial = 0;
 	// Token of the view that the pointer was over last.
 	int32 under_pointer = 0;
 	// Something was invalidated or drawn since the last flush.
