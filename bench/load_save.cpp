@@ -161,7 +161,7 @@ load_and_save(benchmark::State& state, const std::string& font)
 		fs::remove(place.target());
 	}
 	size_t first = 0;
-	for (auto _ : state) {
+	while (state.KeepRunning()) {
 		// Each goes first, second and third in turn: what one leaves behind harms all alike.
 		for (size_t k = 0; k < 3; k++) {
 			size_t way = (first + k) % 3;

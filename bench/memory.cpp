@@ -78,7 +78,7 @@ void
 memory(benchmark::State& state, const std::string& font)
 {
 	growth grown = {0, 0};
-	for (auto _ : state) {
+	while (state.KeepRunning()) {
 		if (!measure(font, grown))
 			state.SkipWithError("cannot be loaded and saved");
 	}

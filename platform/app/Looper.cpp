@@ -51,7 +51,8 @@ BLooper::BLooper(const char* name) : BHandler(name), fState(new looper_state)
 BLooper::~BLooper()
 {
 	_Join();
-	close(*fState, fToken);
+	if (!fState->gone)
+		close(*fState, fToken);
 	for (BHandler* handler : registry::handlers_of(fToken))
 		RemoveHandler(handler);
 	registry::set_looper(fToken, -1);
@@ -240,9 +241,7 @@ BLooper::LockWithTimeout(bigtime_t timeout)
 {
 	assert(!display::serving_here() && "the display thread waits for nobody");
 	waiting_mark mark(*fState);
-	if (timeout == B_INFINITE_TIMEOUT)
-		fState->lock.lock();
-	else if (!fState->lock.try_lock_for(std::chrono::microseconds(timeout)))
+	if (!IsLocked() && !fState->lock.take(timeout))
 		return B_TIMED_OUT;
 	fState->owner = std::this_thread::get_id();
 	fState->depth++;
@@ -266,9 +265,10 @@ BLooper::Unlock()
 void
 BLooper::_GiveUpLock()
 {
-	if (--fState->depth == 0)
-		fState->owner = std::thread::id();
-	fState->lock.unlock();
+	if (--fState->depth > 0)
+		return;
+	fState->owner = std::thread::id();
+	fState->lock.give();
 }
 
 

@@ -13,11 +13,27 @@
 
 namespace kits {
 
+// Who has it goes alone. Of a condition and not of a timed mutex, whose waiting the thread
+// sanitizer cannot see.
+class turn {
+public:
+	// False when it could not be had in that time, in microseconds.
+	bool take(bigtime_t timeout);
+	void give();
+
+private:
+	std::mutex fLock;
+	std::condition_variable fFreed;
+	bool fTaken = false;
+};
+
+
 struct looper_state {
 	std::shared_ptr<port> messages = std::make_shared<port>();
 
-	// The lock. Owner is read by other threads; depth and gone only with the lock held.
-	std::recursive_timed_mutex lock;
+	// The lock, whose owner may take it again. Owner is read by other threads; depth and gone only
+	// with the lock held.
+	turn lock;
 	std::atomic<std::thread::id> owner{};
 	int32 depth = 0;
 	bool gone = false;

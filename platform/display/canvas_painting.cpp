@@ -220,6 +220,21 @@ public:
 		return map.map(shape.path());
 	}
 
+	// The pixels where a path's curves end, which Qt's hairlines may leave out. Not for inverting,
+	// which they would undo.
+	void mark_joints(const QPainterPath& path, const pattern& p)
+	{
+		if (!_Hairline())
+			return;
+		setPen(stroke(p));
+		for (int i = 0; i < path.elementCount(); i++) {
+			bool last = i + 1 == path.elementCount();
+			bool within = !last && path.elementAt(i + 1).type == QPainterPath::CurveToDataElement;
+			if (path.elementAt(i).type == QPainterPath::CurveToDataElement && !within)
+				drawPoint(path.elementAt(i));
+		}
+	}
+
 private:
 	bool _Hairline() const { return fState.pen_size * fState.scaled() <= 1 && fRatio <= 1; }
 	QPointF _Short() const { return _Hairline() ? QPointF(1.0 / 64, 1.0 / 64) : QPointF(); }
@@ -309,9 +324,10 @@ canvas::fill_ellipse(const drawing_context& context, BRect rect, const pattern& 
 		return;
 	rect = truncated(scaled(context, in_order(rect)));
 	painter paint(*this, context);
-	paint.setPen(Qt::NoPen);
-	paint.setBrush(paint.fill(p));
-	paint.drawEllipse(paint.view_pixels(rect));
+	// As a path: Qt's own ellipses of whole numbers leave the topmost row out.
+	QPainterPath path;
+	path.addEllipse(paint.view_pixels(rect));
+	paint.fillPath(path, paint.fill(p));
 	_Touched(context, rect);
 }
 
@@ -325,6 +341,8 @@ canvas::stroke_path(
 	painter paint(*this, context);
 	QPainterPath path = paint.path(shape, by, true);
 	paint.strokePath(path, paint.stroke(p));
+	if (context.state->mode != B_OP_INVERT)
+		paint.mark_joints(path, p);
 	_TouchedDevice(path.controlPointRect(), inked(context, BRect(0, 0, 0, 0)).Width() / 2);
 }
 

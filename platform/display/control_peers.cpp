@@ -75,6 +75,8 @@ fill(QWidget* menu, const std::vector<menu_entry>& entries, report_address repor
 		if (entry.opens) {
 			auto* submenu = new QMenu(label, menu);
 			fill(submenu, entry.entries, report);
+			submenu->menuAction()->setData(entry.id);
+			submenu->menuAction()->setEnabled(entry.enabled);
 			menu->addAction(submenu->menuAction());
 			continue;
 		}
@@ -83,8 +85,11 @@ fill(QWidget* menu, const std::vector<menu_entry>& entries, report_address repor
 		action->setCheckable(entry.marked);
 		action->setChecked(entry.marked);
 		action->setEnabled(entry.enabled);
-		QObject::connect(
-			action, &QAction::triggered, [=] { send_report(report, menu_chosen, "id", entry.id); });
+		QObject::connect(action, &QAction::triggered, [=] {
+			// Choosing has turned a mark off here, which is the program's to do.
+			action->setChecked(action->isCheckable());
+			send_report(report, menu_chosen, "id", entry.id);
+		});
 		menu->addAction(action);
 	}
 }
@@ -94,7 +99,7 @@ QAction*
 find_action(const QWidget* menu, int32 id)
 {
 	for (QAction* action : menu->actions()) {
-		if (!action->menu() && action->data().toInt() == id)
+		if (action->data().toInt() == id)
 			return action;
 		if (QAction* found = action->menu() ? find_action(action->menu(), id) : nullptr)
 			return found;
@@ -158,6 +163,10 @@ control_peers::set_menu_bar(
 		if (!bar->widget)
 			return;
 		auto* widget = static_cast<QMenuBar*>(bar->widget);
+		for (QAction* action : widget->actions()) {
+			QObject* old = action->menu() ? static_cast<QObject*>(action->menu()) : action;
+			old->deleteLater();
+		}
 		widget->clear();
 		fill(widget, entries, report);
 	});

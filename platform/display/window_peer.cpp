@@ -73,13 +73,11 @@ window_peers::show(const peer_ref& window, bool shown)
 
 
 void
-window_peers::set_position(const peer_ref& window, BPoint leftTop)
+window_peers::set_position(const peer_ref& window, BPoint leftTop, int32 serial)
 {
-	with_window(window, [=](window_widget& widget) {
-		QRect place = widget.geometry();
-		place.moveTopLeft(QPoint((int)leftTop.x, (int)leftTop.y));
-		widget.setGeometry(place);
-	});
+	QPoint place = to_qrect(BRect(leftTop, leftTop)).topLeft();
+	with_window(
+		window, [=](window_widget& widget) { widget.set_position(place.x(), place.y(), serial); });
 }
 
 

@@ -25,7 +25,7 @@ peer_ref make(BRect frame, const std::string& title, int32 looper);
 // Device pixels per kit pixel where the window is. Waits for the display.
 float ratio(const peer_ref& window);
 void show(const peer_ref& window, bool shown);
-void set_position(const peer_ref& window, BPoint leftTop);
+void set_position(const peer_ref& window, BPoint leftTop, int32 serial);
 // The serial tells which of the kit's changes a later report already knows.
 void set_size(const peer_ref& window, int32 width, int32 height, int32 serial);
 void set_limits(const peer_ref& window, size_limits limits);
@@ -39,6 +39,10 @@ BPoint position(const peer_ref& window);
 constexpr const char* width_field = "width";
 constexpr const char* height_field = "height";
 constexpr const char* serial_field = "serial";
+// Field of B_WINDOW_MOVED from the display, beside the serial: point, the content's left top.
+constexpr const char* place_field = "place";
+// From the display: a pointer move, to where no view of the window is seen.
+constexpr uint32 pointer_left = '_LFT';
 // From the display: float "ratio" of the screen that the window has come to.
 constexpr uint32 ratio_changed = '_RTO';
 

@@ -2,14 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "display/window_widget.h"
 
+#include "app/activity.h"
 #include "display/input.h"
 #include "display/window_peer.h"
 
 #include <AppDefs.h>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QResizeEvent>
+#include <QTimer>
 
 using namespace kits;
 
@@ -39,11 +44,48 @@ window_widget::set_size(int32 width, int32 height, int32 serial)
 void
 window_widget::resizeEvent(QResizeEvent* event)
 {
+	// What the zoom button makes of it is taken back at once.
+	if (isMaximized() || fUnzooming)
+		return;
 	BMessage resized(B_WINDOW_RESIZED);
 	resized.AddInt32(width_field, event->size().width());
 	resized.AddInt32(height_field, event->size().height());
 	resized.AddInt32(serial_field, fSerial);
 	post_to(fLooper, resized);
+}
+
+
+void
+window_widget::moveEvent(QMoveEvent* event)
+{
+	QWidget::moveEvent(event);
+	if (isMaximized() || fUnzooming)
+		return;
+	// The content's place, not that of its border, which the event tells.
+	QPoint place = geometry().topLeft();
+	BMessage moved(B_WINDOW_MOVED);
+	moved.AddPoint(place_field, BPoint((float)place.x(), (float)place.y()));
+	moved.AddInt32(serial_field, fMoveSerial);
+	post_to(fLooper, moved);
+}
+
+
+void
+window_widget::set_position(int32 left, int32 top, int32 serial)
+{
+	fMoveSerial = serial;
+	setGeometry(left, top, width(), height());
+}
+
+
+// Nothing more is heard of the pointer: the view that it was over has to be told.
+void
+window_widget::leaveEvent(QEvent*)
+{
+	QPoint screen = QCursor::pos();
+	QMouseEvent moved(QEvent::MouseMove, mapFromGlobal(screen), screen, Qt::NoButton,
+		QGuiApplication::mouseButtons(), QGuiApplication::keyboardModifiers());
+	post_pointer(fLooper, pointer_left, *this, moved);
 }
 
 
@@ -59,11 +101,21 @@ void
 window_widget::changeEvent(QEvent* event)
 {
 	QWidget::changeEvent(event);
-	if (event->type() != QEvent::WindowStateChange || !isMaximized())
+	if (event->type() != QEvent::WindowStateChange || !isMaximized() || fUnzooming)
 		return;
-	// The zoom button asks too: the window decides on a size of its own.
-	setWindowState(windowState() & ~Qt::WindowMaximized);
-	post_to(fLooper, BMessage(B_ZOOM));
+	// The zoom button asks too: the window decides on a size of its own. The display tells of the
+	// state a second time, so that it is taken back only after that; and of the size that returns
+	// with it, so that the window is asked after that.
+	fUnzooming = true;
+	activity::begin();
+	QTimer::singleShot(0, this, [this] {
+		setWindowState(windowState() & ~Qt::WindowMaximized);
+		QTimer::singleShot(0, this, [this] {
+			post_to(fLooper, BMessage(B_ZOOM));
+			fUnzooming = false;
+			activity::end();
+		});
+	});
 }
 
 

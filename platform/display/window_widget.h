@@ -16,9 +16,12 @@ public:
 	explicit window_widget(int32 looper);
 
 	void set_size(int32 width, int32 height, int32 serial);
+	void set_position(int32 left, int32 top, int32 serial);
 
 protected:
 	void resizeEvent(QResizeEvent* event) override;
+	void moveEvent(QMoveEvent* event) override;
+	void leaveEvent(QEvent* event) override;
 	void closeEvent(QCloseEvent* event) override;
 	void changeEvent(QEvent* event) override;
 	bool event(QEvent* event) override;
@@ -34,6 +37,8 @@ private:
 
 	const int32 fLooper;
 	int32 fSerial = 0;
+	int32 fMoveSerial = 0;
+	bool fUnzooming = false;
 	qreal fRatio;
 	key_filter fKeys;
 };

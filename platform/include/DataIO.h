@@ -10,13 +10,11 @@ class BDataIO {
 public:
 	BDataIO() = default;
 	virtual ~BDataIO() = default;
+	BDataIO(const BDataIO&) = delete;
+	BDataIO& operator=(const BDataIO&) = delete;
 
 	virtual ssize_t Read(void* buffer, size_t size) = 0;
 	virtual ssize_t Write(const void* buffer, size_t size) = 0;
-
-private:
-	BDataIO(const BDataIO&) = delete;
-	BDataIO& operator=(const BDataIO&) = delete;
 };
 
 // The same with a position. ReadAt and WriteAt leave the position where it is.

@@ -12,6 +12,8 @@ class BNode : public BStatable {
 public:
 	BNode() = default;
 	~BNode() override;
+	BNode(const BNode&) = delete;
+	BNode& operator=(const BNode&) = delete;
 
 	// B_OK while it is open, else why it is not; B_NO_INIT before anything was opened.
 	status_t InitCheck() const;
@@ -33,9 +35,6 @@ protected:
 
 private:
 	friend class BNodeInfo;
-
-	BNode(const BNode&) = delete;
-	BNode& operator=(const BNode&) = delete;
 
 	int fDescriptor = -1; // owned
 	status_t fStatus = B_NO_INIT;

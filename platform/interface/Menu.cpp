@@ -209,6 +209,8 @@ void
 BMenu::_ContentChanged()
 {
 	BMenu* top = _Top();
+	if (top->fState->window)
+		top->_AdoptTargets(top->fState->window);
 	if (top->fState->widget) {
 		control_peers::set_menu_bar(top->fState->widget, menu_access::entries_of(*top),
 			{top->_WindowToken(), top->_Token()});

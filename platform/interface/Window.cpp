@@ -278,11 +278,12 @@ BWindow::MoveTo(float x, float y)
 void
 BWindow::MoveTo(BPoint leftTop)
 {
-	if (!Lock())
+	if (!std::isfinite(leftTop.x) || !std::isfinite(leftTop.y) || !Lock())
 		return;
 	if (leftTop != fWindow->position) {
 		fWindow->position = leftTop;
-		window_peers::set_position(fWindow->widget, leftTop);
+		fWindow->move_serial++;
+		window_peers::set_position(fWindow->widget, leftTop, fWindow->move_serial);
 	}
 	Unlock();
 }

@@ -27,6 +27,7 @@ BWindow::_Deliver(BMessage* message, BHandler* handler)
 		case B_MOUSE_UP:
 		case B_MOUSE_MOVED:
 		case B_MOUSE_WHEEL_CHANGED:
+		case pointer_left:
 			_DeliverPointer(message);
 			break;
 		case B_KEY_DOWN:
@@ -55,6 +56,10 @@ BWindow::DispatchMessage(BMessage* message, BHandler* handler)
 	switch (message->what) {
 		case B_WINDOW_RESIZED:
 			_ResizedByUser(message);
+			break;
+		case B_WINDOW_MOVED:
+			if (message->FindInt32(serial_field) == fWindow->move_serial)
+				fWindow->position = message->FindPoint(place_field);
 			break;
 		case B_VIEW_RESIZED:
 			FrameResized(fWindow->width, fWindow->height);
@@ -102,8 +107,10 @@ BWindow::_DeliverPointer(BMessage* message)
 {
 	BPoint where = message->FindPoint("where");
 	BView* under = fWindow->root->_ViewAt(where);
-	if (under == fWindow->root)
+	if (under == fWindow->root || message->what == pointer_left)
 		under = nullptr;
+	if (message->what == pointer_left)
+		message->what = B_MOUSE_MOVED;
 	if (message->what == B_MOUSE_MOVED)
 		_PointerMoved(message, under);
 	else if (under)
@@ -118,8 +125,11 @@ BWindow::_PointerMoved(BMessage* message, BView* under)
 	fWindow->under_pointer = under ? under->fToken : 0;
 	if (before && before != under)
 		_SendPointer(*message, before, B_EXITED_VIEW);
+	bool entered = before != under;
+	// Found anew: what a view did when it was left may have removed this one.
+	under = dynamic_cast<BView*>(registry::find(fWindow->under_pointer, fToken));
 	if (under)
-		_SendPointer(*message, under, before == under ? B_INSIDE_VIEW : B_ENTERED_VIEW);
+		_SendPointer(*message, under, entered ? B_ENTERED_VIEW : B_INSIDE_VIEW);
 }
 
 
@@ -217,6 +227,9 @@ BWindow::_Navigate(bool forward)
 	auto here = std::find(stops.begin(), stops.end(), fWindow->focus);
 	if (here == stops.end() || ++here == stops.end())
 		here = stops.begin();
+	// Round to where it began is left and entered again, so that a field alone confirms too.
+	if (*here == fWindow->focus)
+		(*here)->MakeFocus(false);
 	(*here)->MakeFocus(true);
 }
 

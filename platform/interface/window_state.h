@@ -24,6 +24,8 @@ struct window_state {
 	float height = 0;
 	// Counts the kit's own changes of size: what the display reports from before the last is old.
 	int32 size_serial = 0;
+	// The same of its places.
+	int32 move_serial = 0;
 	float min_width = 0;
 	float max_width = 32767;
 	float min_height = 0;

@@ -57,14 +57,16 @@ ttf_loca::chg_length(bool is32, int index, unsigned long size)
 	if (!holds(is32, index))
 		return -1;
 	uint32 later = (uint32)index + 1;
-	// All in the entries' unit: with short offsets an odd length loses its last byte.
+	// In the entries' unit: with short offsets an odd length loses its last byte. Without a later
+	// entry there is nothing to move.
 	uint32 unit = is32 ? 1 : 2;
-	uint32 end = holds(is32, later) ? entry(is32, later) : length / unit;
-	uint32 delta = (uint32)size / unit - (end - entry(is32, (uint32)index));
+	uint32 old = entry(is32, later) - entry(is32, (uint32)index);
+	uint32 delta = (uint32)size / unit - old;
+	// In 64 bits: the longest table ends where 32 bits do.
 	if (is32)
-		shift<uint32, get32, ::put32>(data + 4 * later, data + length, delta);
+		shift<uint32, get32, ::put32>(data + (uint64)4 * later, data + length, delta);
 	else
-		shift<uint16, get16, ::put16>(data + 2 * later, data + length, delta);
+		shift<uint16, get16, ::put16>(data + (uint64)2 * later, data + length, delta);
 	return 0;
 }
 

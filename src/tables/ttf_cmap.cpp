@@ -7,7 +7,6 @@
 #include "font/messages.h"
 #include "font/panel.h"
 #include "font/ttf.h"
-#include "font/ttf_maxp.h"
 #include <algorithm>
 #include <Button.h>
 #include <Message.h>
@@ -343,8 +342,7 @@ ttf_cmap::pressed()
 	uint32 start = typed(st);
 	uint32 end = typed(ed);
 	uint32 glyph = typed(gno);
-	uint32 glyphs = owner->maxp != nullptr ? owner->maxp->numglyphs() : 0;
-	if ((int32)start > (int32)end || (glyph != none && glyph >= glyphs))
+	if ((int32)start > (int32)end || (glyph != none && glyph >= owner->numglyphs()))
 		return;
 	set_chr((unsigned short)start, (unsigned short)end, (unsigned short)glyph);
 }

@@ -44,7 +44,7 @@ TEST(drops, replace_the_open_font_without_asking)
 
 TEST(drops, of_several_files_open_the_first_that_is_a_font)
 {
-	temp_file no_font(hex("4F54544F"));
+	temp_file no_font(hex("4f54544f"));
 	temp_folder folder;
 	temp_file font(other_font());
 	temp_file another(tiny_font());
@@ -58,7 +58,7 @@ TEST(drops, of_several_files_open_the_first_that_is_a_font)
 TEST(drops, of_several_files_try_none_after_the_first_font)
 {
 	temp_file font(other_font());
-	temp_file no_font(hex("4F54544F"));
+	temp_file no_font(hex("4f54544f"));
 	std::string printed = printed_by([&] {
 		journey([&](kernix& app, robot& user) {
 			drop(app, user, {font.path(), no_font.path()});
@@ -72,7 +72,7 @@ TEST(drops, of_several_files_try_none_after_the_first_font)
 TEST(drops, without_any_font_leave_the_program_empty)
 {
 	temp_file font(tiny_font());
-	temp_file no_font(hex("4F54544F"));
+	temp_file no_font(hex("4f54544f"));
 	temp_file empty;
 	journey([&](kernix& app, robot& user) {
 		open_file(user, font.path());

@@ -243,9 +243,9 @@ TEST(opening, clears_the_scroll_bars_for_the_empty_work_view)
 			EXPECT_EQ(app.window->scrollv->Target(), app.window->workview);
 			EXPECT_EQ(app.window->scrollh->Target(), app.window->workview);
 			EXPECT_EQ(app.window->canvaswidth, 562);
-			EXPECT_EQ(app.window->canvasheight, 512);
+			EXPECT_EQ(app.window->canvasheight, 513);
 		});
-		EXPECT_EQ(bar(app, B_VERTICAL), "0 to 0, 1, 5 and 511");
+		EXPECT_EQ(bar(app, B_VERTICAL), "0 to 0, 1, 5 and 512");
 		EXPECT_EQ(bar(app, B_HORIZONTAL), "0 to 0, 1, 5 and 561");
 		EXPECT_EQ(size_limits(app), BRect(400, 300, 575, 578));
 	});
@@ -492,7 +492,7 @@ TEST(opening, prints_its_steps_and_the_tables_in_their_order)
 
 TEST(opening, prints_nothing_more_for_what_is_no_font)
 {
-	temp_file no_font(hex("4F54544F 0001"));
+	temp_file no_font(hex("4f54544f 0001"));
 	std::string printed = printed_by(
 		[&] { journey([&](kernix&, robot& user) { open_file(user, no_font.path()); }); });
 	EXPECT_EQ(printed, "kernix:load\nttf:load\n");

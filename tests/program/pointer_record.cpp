@@ -283,7 +283,7 @@ TEST(pointer_record, ignores_messages_that_are_no_mouse_messages)
 {
 	recording([](kernix& app, robot& user, BView* view) {
 		for (uint32 what :
-			std::initializer_list<uint32>{B_KEY_DOWN, B_MOUSE_WHEEL_CHANGED, B_SIMPLE_DATA})
+			std::initializer_list<uint32>{B_KEY_UP, B_MOUSE_WHEEL_CHANGED, B_SIMPLE_DATA})
 			send(app, user, view, full(what));
 		expect_untouched(recorded(app));
 	});

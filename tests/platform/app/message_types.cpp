@@ -21,7 +21,10 @@ namespace {
 		static status_t add(BMessage& m, T v) { return m.Add##Name("field", v); }                  \
 		static status_t add_null(BMessage& m) { return m.Add##Name(nullptr, First); }              \
 		static status_t find(const BMessage& m, T* out) { return m.Find##Name("field", out); }     \
-		static status_t find_null(const BMessage& m, T* out) { return m.Find##Name(nullptr, out); } \
+		static status_t find_null(const BMessage& m, T* out)                                       \
+		{                                                                                          \
+			return m.Find##Name(nullptr, out);                                                     \
+		}                                                                                          \
 		static status_t find(const BMessage& m, int32 i, T* out)                                   \
 		{                                                                                          \
 			return m.Find##Name("field", i, out);                                                  \
@@ -43,16 +46,14 @@ FIELD_TYPE(Rect, BRect, 'RECT', BRect(1, 2, 3, 4.5f), BRect(9, 8, -7, -6));
 template <typename Field>
 class message_field : public testing::Test {
 protected:
-	using type = typename Field::type;
-
 	message_field()
 	{
-		Field::add(message, Field::first());
-		Field::add(message, Field::second());
-		Field::add(message, Field::first());
+		Field::add(fThree, Field::first());
+		Field::add(fThree, Field::second());
+		Field::add(fThree, Field::first());
 	}
 
-	BMessage message{'test'};
+	BMessage fThree;
 };
 
 using all_fields = testing::Types<Int8_field, Int16_field, Int32_field, Int64_field, Bool_field,
@@ -79,11 +80,11 @@ TYPED_TEST(message_field, values_added_again_keep_their_order)
 	using type = typename TypeParam::type;
 	type out[3] = {TypeParam::second(), TypeParam::first(), TypeParam::second()};
 	for (int32 i = 0; i < 3; i++)
-		EXPECT_EQ(TypeParam::find(this->message, i, &out[i]), B_OK);
+		EXPECT_EQ(TypeParam::find(this->fThree, i, &out[i]), B_OK);
 	EXPECT_EQ(out[0], TypeParam::first());
 	EXPECT_EQ(out[1], TypeParam::second());
 	EXPECT_EQ(out[2], TypeParam::first());
-	EXPECT_EQ(TypeParam::found(this->message, 1), TypeParam::second());
+	EXPECT_EQ(TypeParam::found(this->fThree, 1), TypeParam::second());
 }
 
 
@@ -92,9 +93,9 @@ TYPED_TEST(message_field, past_the_last_index_there_is_nothing)
 	using type = typename TypeParam::type;
 	for (int32 index : {3, 4, 2147483647, -1, std::numeric_limits<int32>::min()}) {
 		type out = TypeParam::first();
-		EXPECT_EQ(TypeParam::find(this->message, index, &out), B_BAD_INDEX) << index;
+		EXPECT_EQ(TypeParam::find(this->fThree, index, &out), B_BAD_INDEX) << index;
 		EXPECT_EQ(out, type()) << index;
-		EXPECT_EQ(TypeParam::found(this->message, index), type()) << index;
+		EXPECT_EQ(TypeParam::found(this->fThree, index), type()) << index;
 	}
 }
 
@@ -115,7 +116,7 @@ TYPED_TEST(message_field, a_missing_name_gives_nothing)
 
 TYPED_TEST(message_field, is_not_found_by_any_other_type)
 {
-	BMessage& message = this->message;
+	BMessage& message = this->fThree;
 	int found = 0;
 	type_code code = 0;
 	int8 byte;
@@ -127,12 +128,11 @@ TYPED_TEST(message_field, is_not_found_by_any_other_type)
 	double exact;
 	BPoint point;
 	BRect rect;
-	for (status_t status :
-		{message.FindInt8("field", &byte), message.FindInt16("field", &word),
-			message.FindInt32("field", &number), message.FindInt64("field", &wide),
-			message.FindBool("field", &flag), message.FindFloat("field", &real),
-			message.FindDouble("field", &exact), message.FindPoint("field", &point),
-			message.FindRect("field", &rect)}) {
+	for (status_t status : {message.FindInt8("field", &byte), message.FindInt16("field", &word),
+			 message.FindInt32("field", &number), message.FindInt64("field", &wide),
+			 message.FindBool("field", &flag), message.FindFloat("field", &real),
+			 message.FindDouble("field", &exact), message.FindPoint("field", &point),
+			 message.FindRect("field", &rect)}) {
 		found += status == B_OK;
 		EXPECT_TRUE(status == B_OK || status == B_BAD_TYPE);
 	}
@@ -164,9 +164,9 @@ TYPED_TEST(message_field, takes_no_value_of_another_type)
 	text.AddString("field", "first");
 	EXPECT_EQ(TypeParam::add(text, TypeParam::first()), B_BAD_TYPE);
 	EXPECT_STREQ(text.FindString("field"), "first");
-	EXPECT_EQ(this->message.AddString("field", "fourth"), B_BAD_TYPE);
+	EXPECT_EQ(this->fThree.AddString("field", "fourth"), B_BAD_TYPE);
 	int32 count = 0;
-	EXPECT_EQ(this->message.GetInfo("field", nullptr, &count), B_OK);
+	EXPECT_EQ(this->fThree.GetInfo("field", nullptr, &count), B_OK);
 	EXPECT_EQ(count, 3);
 }
 
@@ -178,7 +178,7 @@ TYPED_TEST(message_field, without_a_name_is_refused)
 	EXPECT_EQ(TypeParam::add_null(message), B_BAD_VALUE);
 	EXPECT_TRUE(message.IsEmpty());
 	type out = TypeParam::first();
-	EXPECT_EQ(TypeParam::find_null(this->message, &out), B_NAME_NOT_FOUND);
+	EXPECT_EQ(TypeParam::find_null(this->fThree, &out), B_NAME_NOT_FOUND);
 	EXPECT_EQ(out, type());
 }
 

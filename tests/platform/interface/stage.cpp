@@ -195,9 +195,10 @@ test_window::test_window(BRect frame, const char* title)
 void
 test_window::locked(const std::function<void()>& work)
 {
-	Lock();
+	bool held = Lock();
 	work();
-	Unlock();
+	if (held)
+		Unlock();
 }
 
 
@@ -223,10 +224,25 @@ test_window::last_dispatched(uint32 what)
 }
 
 
+journal
+test_window::handlers_of(uint32 what)
+{
+	journal names;
+	locked([&] {
+		for (size_t i = 0; i < fDispatched.size(); i++) {
+			if (fDispatched[i].what == what)
+				names.push_back(fHandlers[i]);
+		}
+	});
+	return names;
+}
+
+
 void
 test_window::DispatchMessage(BMessage* message, BHandler* handler)
 {
 	fDispatched.push_back(*message);
+	fHandlers.push_back(handler->Name());
 	BWindow::DispatchMessage(message, handler);
 }
 
@@ -242,6 +258,8 @@ void
 test_window::Zoom(BPoint leftTop, float width, float height)
 {
 	zoomed.emplace_back(leftTop.x, leftTop.y, leftTop.x + width, leftTop.y + height);
+	if (may_zoom)
+		BWindow::Zoom(leftTop, width, height);
 }
 
 

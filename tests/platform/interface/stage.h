@@ -85,7 +85,7 @@ public:
 	explicit test_window(BRect frame, const char* title = "test");
 	using BWindow::Zoom;
 
-	// Runs with the window locked.
+	// Runs with the window locked, or as it is when it has quit.
 	void locked(const std::function<void()>& work);
 	// Adds a view and gives it back, for whoever holds no lock.
 	template <typename View>
@@ -98,10 +98,14 @@ public:
 	std::vector<BMessage> dispatched(uint32 what);
 	// The last one; empty when there is none.
 	BMessage last_dispatched(uint32 what);
+	// The names of the handlers that it was dispatched to.
+	journal handlers_of(uint32 what);
 
 	// Guarded by the window's lock.
 	std::vector<BPoint> resized;
 	std::vector<BRect> zoomed;
+	// Whether Zoom() does more than be noted.
+	bool may_zoom = false;
 	int quit_questions = 0;
 	bool may_quit = true;
 
@@ -112,6 +116,7 @@ public:
 
 private:
 	std::vector<BMessage> fDispatched;
+	journal fHandlers;
 };
 
 // An application without a window.
