@@ -275,11 +275,13 @@ TEST(stroke_line, with_an_end_that_is_no_number_draws_nothing_and_leaves_the_pen
 
 TEST(stroke_line, from_far_outside_crosses_the_view)
 {
-	EXPECT_EQ(painted(4, 3, [](BView& view) { view.StrokeLine(BPoint(-1e9F, 1), BPoint(1e9F, 1)); }),
+	EXPECT_EQ(
+		painted(4, 3, [](BView& view) { view.StrokeLine(BPoint(-1e9F, 1), BPoint(1e9F, 1)); }),
 		"....\n"
 		"####\n"
 		"....\n");
-	EXPECT_EQ(painted(3, 2, [](BView& view) { view.StrokeLine(BPoint(1, 9e4F), BPoint(1, -9e4F)); }),
+	EXPECT_EQ(
+		painted(3, 2, [](BView& view) { view.StrokeLine(BPoint(1, 9e4F), BPoint(1, -9e4F)); }),
 		".#.\n"
 		".#.\n");
 }

@@ -320,8 +320,9 @@ TEST(view_updates, what_draw_invalidates_is_drawn_in_a_later_turn)
 			view.Invalidate();
 		});
 		user.settle();
-		window.locked(
-			[&] { EXPECT_EQ(view.draws, (std::vector<BRect>{patch, BRect(0, 0, 1, 1)})); });
+		window.locked([&] {
+			EXPECT_EQ(view.draws, (std::vector<BRect>{patch, BRect(0, 0, 1, 1)}));
+		});
 	});
 }
 
