@@ -140,4 +140,7 @@ void
 display::drain()
 {
 	commands->drain();
+	// A dialog whose threads still read folders must not outlive what they use.
+	if (!is_serving)
+		QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

@@ -4,8 +4,11 @@
 
 #include "display/display.h"
 
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -72,12 +75,22 @@ private:
 	{
 		last_folder() = directory().absolutePath();
 		QFileDialog::done(result);
+		_EndSuggestions();
 		std::vector<std::string> paths;
 		if (result == Accepted) {
 			for (const QString& path : selectedFiles())
 				paths.push_back(path.toStdString());
 		}
 		fAnswer(paths);
+	}
+
+	// They are a window of their own, which would stay, or come late, when the folder has been read.
+	void _EndSuggestions()
+	{
+		for (auto* field : findChildren<QLineEdit*>())
+			field->setCompleter(nullptr);
+		for (auto* suggestions : findChildren<QCompleter*>())
+			suggestions->popup()->hide();
 	}
 
 	const dialog_answer fAnswer;

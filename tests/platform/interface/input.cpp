@@ -289,11 +289,13 @@ TEST(input, a_hook_that_deletes_the_view_entered_is_survived)
 		test_view& left = add_target(window);
 		auto& entered = window.add(new test_view(BRect(130, 10, 199, 79), "entered"));
 		user.move(BPoint(50, 45));
+		BView* doomed = &entered;
 		window.locked([&] {
 			left.on_message = [&](BMessage&) {
-				entered.RemoveSelf();
-				delete &entered;
-				left.on_message = nullptr;
+				if (doomed)
+					doomed->RemoveSelf();
+				delete doomed;
+				doomed = nullptr;
 			};
 		});
 		user.move(BPoint(140, 45));

@@ -53,7 +53,7 @@ TEST(menu_item, is_as_it_was_made)
 
 TEST(menu_item, without_a_label_has_an_empty_one)
 {
-	BMenuItem item(nullptr, nullptr);
+	BMenuItem item((const char*)nullptr, nullptr);
 	EXPECT_STREQ(item.Label(), "");
 }
 

@@ -19,7 +19,7 @@ namespace {
 // A folder with two files, a window to answer to, and panels that start in the folder.
 class desk {
 public:
-	desk(test_window& window, robot& user) : window(window), user(user), target(&window)
+	desk(test_window& receiver, robot& hand) : window(receiver), user(hand), target(&receiver)
 	{
 		store(folder.path("one.ttf"), "1");
 		store(folder.path("two.ttf"), "2");
@@ -37,6 +37,7 @@ public:
 	test_window& window;
 	robot& user;
 	BMessenger target;
+	// The folder.
 	entry_ref place;
 };
 
@@ -201,7 +202,7 @@ TEST(file_panel, closed_without_a_choice_says_what_it_would_have_sent)
 		panel->Show();
 		of.user.cancel_panel();
 		const BMessage answer = of.window.last_dispatched(B_CANCEL);
-		EXPECT_EQ(answer.FindInt32("old_what"), B_REFS_RECEIVED);
+		EXPECT_EQ(answer.FindInt32("old_what"), (int32)B_REFS_RECEIVED);
 		void* source = nullptr;
 		answer.FindPointer("source", &source);
 		EXPECT_EQ(source, panel.get());
@@ -217,7 +218,8 @@ TEST(file_panel, to_save_closed_without_a_choice_says_so_too)
 		auto panel = of.panel(B_SAVE_PANEL);
 		panel->Show();
 		of.user.cancel_panel();
-		EXPECT_EQ(of.window.last_dispatched(B_CANCEL).FindInt32("old_what"), B_SAVE_REQUESTED);
+		EXPECT_EQ(
+			of.window.last_dispatched(B_CANCEL).FindInt32("old_what"), (int32)B_SAVE_REQUESTED);
 	});
 }
 
