@@ -212,28 +212,6 @@ TEST(draw_string, paints_within_reach_of_the_baseline)
 }
 
 
-TEST(draw_string, paints_in_the_high_colour)
-{
-	with_display([] {
-		sheet page(60, 30);
-		BView& view = page.whole();
-		view.SetHighColor(red);
-		view.DrawString("lll", BPoint(5, 20));
-		int full = 0;
-		for (int y = 0; y < 30; y++) {
-			for (int x = 0; x < 60; x++) {
-				uint32 found = pixel(page, x, y);
-				full += found == 0xFF0000;
-				// Edges are mixed of the high colour and the white behind.
-				EXPECT_EQ(found >> 16, 0xFFU);
-				EXPECT_EQ(found >> 8 & 0xFF, found & 0xFF);
-			}
-		}
-		EXPECT_GT(full, 20);
-	});
-}
-
-
 TEST(draw_string, leaves_the_pen_at_the_end_of_the_text)
 {
 	with_display([] {
