@@ -6,6 +6,7 @@
 #include "app/port.h"
 #include "app/registry.h"
 #include "display/modifiers.h"
+#include "display/window_widget.h"
 
 #include <algorithm>
 #include <AppDefs.h>
@@ -79,9 +80,19 @@ pointer_message(uint32 what, const QWidget& widget, const QSinglePointEvent& eve
 }
 
 
+// What BView::GetMouse() answers with.
 void
-post_pointer_message(int32 looper, std::unique_ptr<BMessage> message)
+remember(const QWidget& widget, const BMessage& message)
 {
+	if (const auto* window = dynamic_cast<const window_widget*>(widget.window()))
+		window->pointer().set(message.FindPoint("where"), (uint32)message.FindInt32("buttons"));
+}
+
+
+void
+post_pointer_message(int32 looper, const QWidget& widget, std::unique_ptr<BMessage> message)
+{
+	remember(widget, *message);
 	std::shared_ptr<port> messages = registry::port_of(looper);
 	if (!messages)
 		return;
@@ -101,6 +112,38 @@ place_on_tablet(const QTabletEvent& event)
 	QPointF place = event.globalPosition() - desktop.topLeft();
 	return BPoint((float)std::clamp(place.x() / desktop.width(), 0.0, 1.0),
 		(float)std::clamp(place.y() / desktop.height(), 0.0, 1.0));
+}
+
+
+void
+post_tablet(int32 looper, uint32 what, const QWidget& widget, const QTabletEvent& event)
+{
+	// Degrees from upright at which a pen lies as flat as its tablet can tell.
+	constexpr float flat = 60;
+	std::unique_ptr<BMessage> message = pointer_message(what, widget, event);
+	BPoint place = place_on_tablet(event);
+	message->AddFloat("be:tablet_x", place.x);
+	message->AddFloat("be:tablet_y", place.y);
+	message->AddFloat("be:tablet_pressure", (float)event.pressure());
+	if (event.pointingDevice()->hasCapability(QInputDevice::Capability::XTilt)) {
+		message->AddFloat("be:tablet_tilt_x", std::clamp((float)event.xTilt() / flat, -1.0F, 1.0F));
+		message->AddFloat("be:tablet_tilt_y", std::clamp((float)event.yTilt() / flat, -1.0F, 1.0F));
+	}
+	bool eraser = event.pointerType() == QPointingDevice::PointerType::Eraser;
+	message->AddInt32("be:tablet_eraser", eraser ? 1 : 0);
+	post_pointer_message(looper, widget, std::move(message));
+}
+
+
+void
+post_wheel(int32 looper, const QWidget& widget, const QWheelEvent& event)
+{
+	// One notch is 120 of Qt's units and one of the platform's, which counts downward.
+	BMessage message(B_MOUSE_WHEEL_CHANGED);
+	add_place(message, widget, event.position(), event.globalPosition());
+	message.AddFloat("be:wheel_delta_x", -(float)event.angleDelta().x() / 120);
+	message.AddFloat("be:wheel_delta_y", -(float)event.angleDelta().y() / 120);
+	post_to(looper, message);
 }
 
 }
@@ -123,27 +166,41 @@ kits::modifiers_of(Qt::KeyboardModifiers held)
 void
 kits::post_pointer(int32 looper, uint32 what, const QWidget& widget, const QMouseEvent& event)
 {
-	post_pointer_message(looper, pointer_message(what, widget, event));
+	post_pointer_message(looper, widget, pointer_message(what, widget, event));
 }
 
 
-void
-kits::post_tablet(int32 looper, uint32 what, const QWidget& widget, const QTabletEvent& event)
+bool
+kits::take_pointer(int32 looper, const QWidget& widget, QEvent& event)
 {
-	// Degrees from upright at which a pen lies as flat as its tablet can tell.
-	constexpr float flat = 60;
-	std::unique_ptr<BMessage> message = pointer_message(what, widget, event);
-	BPoint place = place_on_tablet(event);
-	message->AddFloat("be:tablet_x", place.x);
-	message->AddFloat("be:tablet_y", place.y);
-	message->AddFloat("be:tablet_pressure", (float)event.pressure());
-	if (event.pointingDevice()->hasCapability(QInputDevice::Capability::XTilt)) {
-		message->AddFloat("be:tablet_tilt_x", std::clamp((float)event.xTilt() / flat, -1.0F, 1.0F));
-		message->AddFloat("be:tablet_tilt_y", std::clamp((float)event.yTilt() / flat, -1.0F, 1.0F));
+	switch (event.type()) {
+		case QEvent::MouseButtonPress:
+		case QEvent::MouseButtonDblClick:
+			post_pointer(looper, B_MOUSE_DOWN, widget, static_cast<QMouseEvent&>(event));
+			break;
+		case QEvent::MouseButtonRelease:
+			post_pointer(looper, B_MOUSE_UP, widget, static_cast<QMouseEvent&>(event));
+			break;
+		case QEvent::MouseMove:
+			post_pointer(looper, B_MOUSE_MOVED, widget, static_cast<QMouseEvent&>(event));
+			break;
+		case QEvent::TabletPress:
+			post_tablet(looper, B_MOUSE_DOWN, widget, static_cast<QTabletEvent&>(event));
+			break;
+		case QEvent::TabletRelease:
+			post_tablet(looper, B_MOUSE_UP, widget, static_cast<QTabletEvent&>(event));
+			break;
+		case QEvent::TabletMove:
+			post_tablet(looper, B_MOUSE_MOVED, widget, static_cast<QTabletEvent&>(event));
+			break;
+		case QEvent::Wheel:
+			post_wheel(looper, widget, static_cast<QWheelEvent&>(event));
+			break;
+		default:
+			return false;
 	}
-	bool eraser = event.pointerType() == QPointingDevice::PointerType::Eraser;
-	message->AddInt32("be:tablet_eraser", eraser ? 1 : 0);
-	post_pointer_message(looper, std::move(message));
+	event.accept();
+	return true;
 }
 
 
@@ -162,18 +219,6 @@ kits::post_drop(int32 looper, const QWidget& window, const QDropEvent& event)
 	QPointF screen = window.mapToGlobal(event.position());
 	message_access::mark_dropped(message, BPoint((float)screen.x(), (float)screen.y()));
 	message.AddPoint(drop_field, BPoint((float)event.position().x(), (float)event.position().y()));
-	post_to(looper, message);
-}
-
-
-void
-kits::post_wheel(int32 looper, const QWidget& widget, const QWheelEvent& event)
-{
-	// One notch is 120 of Qt's units and one of the platform's, which counts downward.
-	BMessage message(B_MOUSE_WHEEL_CHANGED);
-	add_place(message, widget, event.position(), event.globalPosition());
-	message.AddFloat("be:wheel_delta_x", -(float)event.angleDelta().x() / 120);
-	message.AddFloat("be:wheel_delta_y", -(float)event.angleDelta().y() / 120);
 	post_to(looper, message);
 }
 

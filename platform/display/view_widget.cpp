@@ -4,9 +4,7 @@
 
 #include "display/input.h"
 
-#include <AppDefs.h>
 #include <QImage>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
 
@@ -43,54 +41,8 @@ view_widget::paintEvent(QPaintEvent* event)
 }
 
 
-// Every event is taken: an ignored press would climb to the parent widget and count there again.
-
-void
-view_widget::mousePressEvent(QMouseEvent* event)
+bool
+view_widget::event(QEvent* event)
 {
-	post_pointer(fLooper, B_MOUSE_DOWN, *this, *event);
-	event->accept();
-}
-
-
-void
-view_widget::mouseDoubleClickEvent(QMouseEvent* event)
-{
-	mousePressEvent(event);
-}
-
-
-void
-view_widget::mouseReleaseEvent(QMouseEvent* event)
-{
-	post_pointer(fLooper, B_MOUSE_UP, *this, *event);
-	event->accept();
-}
-
-
-void
-view_widget::mouseMoveEvent(QMouseEvent* event)
-{
-	post_pointer(fLooper, B_MOUSE_MOVED, *this, *event);
-	event->accept();
-}
-
-
-// Taken too, so that no mouse event is made of it a second time.
-void
-view_widget::tabletEvent(QTabletEvent* event)
-{
-	uint32 what = event->type() == QEvent::TabletPress ? B_MOUSE_DOWN
-		: event->type() == QEvent::TabletRelease       ? B_MOUSE_UP
-													   : B_MOUSE_MOVED;
-	post_tablet(fLooper, what, *this, *event);
-	event->accept();
-}
-
-
-void
-view_widget::wheelEvent(QWheelEvent* event)
-{
-	post_wheel(fLooper, *this, *event);
-	event->accept();
+	return take_pointer(fLooper, *this, *event) || QWidget::event(event);
 }

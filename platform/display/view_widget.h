@@ -17,12 +17,7 @@ public:
 
 protected:
 	void paintEvent(QPaintEvent* event) override;
-	void mousePressEvent(QMouseEvent* event) override;
-	void mouseDoubleClickEvent(QMouseEvent* event) override;
-	void mouseReleaseEvent(QMouseEvent* event) override;
-	void mouseMoveEvent(QMouseEvent* event) override;
-	void tabletEvent(QTabletEvent* event) override;
-	void wheelEvent(QWheelEvent* event) override;
+	bool event(QEvent* event) override;
 
 private:
 	const int32 fLooper;

@@ -29,11 +29,12 @@ with_window(const peer_ref& window, Work work)
 
 
 peer_ref
-window_peers::make(BRect frame, const std::string& title, int32 looper)
+window_peers::make(BRect frame, const std::string& title, int32 looper,
+	const std::shared_ptr<pointer_record>& pointer)
 {
 	auto made = std::make_shared<peer>();
 	display::post([=] {
-		auto* widget = new window_widget(looper);
+		auto* widget = new window_widget(looper, pointer);
 		widget->setWindowTitle(QString::fromStdString(title));
 		adopt(made, widget, frame, false);
 	});

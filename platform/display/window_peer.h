@@ -4,6 +4,7 @@
 #define KITS_WINDOW_PEER_H
 
 #include "display/peer.h"
+#include "display/pointer_record.h"
 
 #include <string>
 
@@ -20,8 +21,10 @@ struct size_limits {
 // Commands for a window's widget; any thread.
 namespace window_peers {
 
-// The widget of a window, not yet shown. Input and changes of size go to the looper.
-peer_ref make(BRect frame, const std::string& title, int32 looper);
+// The widget of a window, not yet shown. Input and changes of size go to the looper; the record is
+// kept up to date.
+peer_ref make(BRect frame, const std::string& title, int32 looper,
+	const std::shared_ptr<pointer_record>& pointer);
 // Device pixels per kit pixel where the window is. Waits for the display.
 float ratio(const peer_ref& window);
 void show(const peer_ref& window, bool shown);

@@ -19,8 +19,9 @@
 using namespace kits;
 
 
-window_widget::window_widget(int32 looper)
+window_widget::window_widget(int32 looper, std::shared_ptr<pointer_record> pointer)
 	: fLooper(looper),
+	  fPointer(std::move(pointer)),
 	  fRatio(devicePixelRatio()),
 	  fKeys([looper](bool down, const QKeyEvent& event, int32 repeat) {
 		  post_key(looper, down, event, repeat);
@@ -30,6 +31,7 @@ window_widget::window_widget(int32 looper)
 	setAcceptDrops(true);
 	setFocusPolicy(Qt::NoFocus);
 	setMouseTracking(true);
+	setTabletTracking(true);
 }
 
 
@@ -124,7 +126,8 @@ window_widget::event(QEvent* event)
 {
 	if (event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show)
 		_ReportRatio();
-	return QWidget::event(event);
+	// Where no view is: the one that the pointer was over has to be told.
+	return take_pointer(fLooper, *this, *event) || QWidget::event(event);
 }
 
 

@@ -4,7 +4,9 @@
 #define KITS_WINDOW_WIDGET_H
 
 #include "display/key_filter.h"
+#include "display/pointer_record.h"
 
+#include <memory>
 #include <QWidget>
 #include <SupportDefs.h>
 
@@ -13,10 +15,11 @@ namespace kits {
 // The widget of a window. Its looper's answer decides everything: a close box only asks.
 class window_widget : public QWidget {
 public:
-	explicit window_widget(int32 looper);
+	window_widget(int32 looper, std::shared_ptr<pointer_record> pointer);
 
 	void set_size(int32 width, int32 height, int32 serial);
 	void set_position(int32 left, int32 top, int32 serial);
+	pointer_record& pointer() const { return *fPointer; }
 
 protected:
 	void resizeEvent(QResizeEvent* event) override;
@@ -36,6 +39,7 @@ private:
 	void _ReportRatio();
 
 	const int32 fLooper;
+	const std::shared_ptr<pointer_record> fPointer;
 	int32 fSerial = 0;
 	int32 fMoveSerial = 0;
 	bool fUnzooming = false;

@@ -69,6 +69,16 @@ enum { B_PRIMARY_MOUSE_BUTTON = 1, B_SECONDARY_MOUSE_BUTTON = 2, B_TERTIARY_MOUS
 // Where a pointer move stands to a view.
 enum { B_ENTERED_VIEW = 0, B_INSIDE_VIEW = 1, B_EXITED_VIEW = 2, B_OUTSIDE_VIEW = 3 };
 
+// What an event mask asks for, and its options, which change nothing here: every move counts while a
+// button is held, and the keyboard stays where it is.
+enum { B_POINTER_EVENTS = 0x00000001, B_KEYBOARD_EVENTS = 0x00000002 };
+enum {
+	B_LOCK_WINDOW_FOCUS = 0x00000001,
+	B_SUSPEND_VIEW_FOCUS = 0x00000002,
+	B_NO_POINTER_HISTORY = 0x00000004,
+	B_FULL_POINTER_HISTORY = 0x00000008
+};
+
 struct escapement_delta {
 	float nonspace;
 	float space;
@@ -138,6 +148,16 @@ public:
 	// base lets Tab and Shift-Tab walk through the navigable views.
 	virtual void KeyDown(const char* bytes, int32 numBytes);
 	virtual void KeyUp(const char* bytes, int32 numBytes);
+
+	// Hears of all pointer events of the window, or keys, besides the view that they are for, also
+	// while hidden and, with a button held, outside of the window; moves that are not this view's
+	// have the transit B_OUTSIDE_VIEW. Lasts until changed or until the view is detached.
+	status_t SetEventMask(uint32 mask, uint32 options = 0);
+	// The same until no button is held any more. B_ERROR outside of MouseDown().
+	status_t SetMouseEventMask(uint32 mask, uint32 options = 0);
+	// Where the pointer is now, in view coordinates, and what is held. Drawing so far is brought to
+	// the screen; messages stay in the queue, whatever the last argument. Either result may be null.
+	void GetMouse(BPoint* location, uint32* buttons, bool checkMessageQueue = true);
 
 	// Takes the keyboard, or gives it up. Does nothing while unattached.
 	virtual void MakeFocus(bool focus = true);
@@ -254,6 +274,8 @@ private:
 	void _ScrollBarsFollow();
 	void _Wheel(BMessage* message);
 	void _Key(BMessage* message);
+	status_t _Watch(uint32& mask, uint32 wanted);
+	void _EndWatch();
 	bool _CanBeSeen() const;
 	void _ForgetImages();
 	void _VisibilityChanged();

@@ -5,6 +5,7 @@
 
 #include <Looper.h>
 #include <Rect.h>
+#include <vector>
 #include <View.h>
 
 class BBitmap;
@@ -114,6 +115,8 @@ private:
 	void _Navigate(bool forward);
 	void _SendPointer(const BMessage& message, BView* view, uint32 transit);
 	void _PointerMoved(BMessage* message, BView* under);
+	void _TellWatchers(const BMessage& message, uint32 mask, const std::vector<int32>& told);
+	void _EndPress();
 	void _ResizedByUser(BMessage* message);
 	void _SetSize(float width, float height);
 	void _SetFocus(BView* view);

@@ -82,6 +82,7 @@ BView::_Attach(BWindow* window)
 	SetNextHandler(topmost ? static_cast<BHandler*>(window) : fState->parent);
 	if (!window->fWindow->offscreen)
 		_MakePeer();
+	_Watch(fState->event_mask, fState->event_mask);
 	for (BView* child : fState->children)
 		child->_Attach(window);
 }
@@ -182,6 +183,7 @@ BView::_Detach()
 		child->_Detach();
 	if (IsFocus())
 		fState->window->_SetFocus(nullptr);
+	_EndWatch();
 	if (fState->widget)
 		peers::destroy(fState->widget);
 	fState->widget = nullptr;
@@ -311,102 +313,6 @@ BView::AllDetached()
 
 
 void
-BView::MessageReceived(BMessage* message)
-{
-	switch (message->what) {
-		case B_MOUSE_DOWN:
-			MouseDown(message->FindPoint("be:view_where"));
-			break;
-		case B_MOUSE_UP:
-			MouseUp(message->FindPoint("be:view_where"));
-			break;
-		case B_MOUSE_MOVED:
-			MouseMoved(message->FindPoint("be:view_where"),
-				(uint32)message->FindInt32("be:transit"), nullptr);
-			break;
-		case B_MOUSE_WHEEL_CHANGED:
-			_Wheel(message);
-			break;
-		case B_KEY_DOWN:
-		case B_KEY_UP:
-			_Key(message);
-			break;
-		default:
-			BHandler::MessageReceived(message);
-	}
-}
-
-
-void
 BView::Draw(BRect)
 {
-}
-
-
-void
-BView::MouseDown(BPoint)
-{
-}
-
-
-void
-BView::MouseUp(BPoint)
-{
-}
-
-
-void
-BView::MouseMoved(BPoint, uint32, const BMessage*)
-{
-}
-
-
-// A message without "bytes" is no key.
-void
-BView::_Key(BMessage* message)
-{
-	const char* bytes;
-	if (message->FindString("bytes", &bytes) != B_OK)
-		return;
-	if (message->what == B_KEY_DOWN)
-		KeyDown(bytes, (int32)strlen(bytes));
-	else
-		KeyUp(bytes, (int32)strlen(bytes));
-}
-
-
-void
-BView::KeyDown(const char* bytes, int32 numBytes)
-{
-	const BMessage* message = fState->window ? fState->window->CurrentMessage() : nullptr;
-	if (numBytes == 1 && bytes[0] == B_TAB && message)
-		fState->window->_Navigate(!(message->FindInt32("modifiers") & B_SHIFT_KEY));
-}
-
-
-void
-BView::KeyUp(const char*, int32)
-{
-}
-
-
-void
-BView::MakeFocus(bool focus)
-{
-	BWindow* window = fState->window;
-	if (!window || focus == IsFocus())
-		return;
-	// Forgotten before the window is told, who would call this hook a second time.
-	if (!focus) {
-		window->fWindow->focus = nullptr;
-		window->SetPreferredHandler(nullptr);
-	}
-	window->_SetFocus(focus ? this : nullptr);
-}
-
-
-bool
-BView::IsFocus() const
-{
-	return fState->window && fState->window->CurrentFocus() == this;
 }

@@ -1,6 +1,5 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
-#include "display/field_peers.h"
 #include "interface/view_state.h"
 #include "interface/window_state.h"
 
@@ -22,7 +21,7 @@ BWindow::BWindow(BRect frame, const char* title, window_type, uint32, uint32)
 {
 	fWindow->title = title ? title : "";
 	_Init(frame);
-	fWindow->widget = window_peers::make(frame, fWindow->title, fToken);
+	fWindow->widget = window_peers::make(frame, fWindow->title, fToken, fWindow->pointer);
 	fWindow->root->fState->widget = fWindow->widget;
 	be_app->_AddWindow(this);
 }
@@ -357,64 +356,6 @@ const char*
 BWindow::Title() const
 {
 	return fWindow->title.c_str();
-}
-
-
-BView*
-BWindow::CurrentFocus() const
-{
-	return fWindow->focus;
-}
-
-
-// The program moves the keyboard: the display is told.
-void
-BWindow::_SetFocus(BView* view)
-{
-	fWindow->focus_serial++;
-	_FollowFocus(view);
-	if (fWindow->focus == view)
-		_TellFocus();
-}
-
-
-void
-BWindow::_TellFocus()
-{
-	BView* view = fWindow->focus;
-	if (fWindow->widget)
-		field_peers::focus(
-			fWindow->widget, view ? view->fState->widget : nullptr, fWindow->focus_serial);
-}
-
-
-// The display has moved it, or is about to. Whoever loses it may have something to send first.
-void
-BWindow::_FollowFocus(BView* view)
-{
-	if (fWindow->focus == view)
-		return;
-	if (BView* before = fWindow->focus) {
-		fWindow->focus = nullptr;
-		SetPreferredHandler(nullptr);
-		before->MakeFocus(false);
-	}
-	fWindow->focus = view;
-	SetPreferredHandler(view);
-}
-
-
-// The keyboard on the display has moved on its own; the kit follows, unless the program has moved
-// it since.
-void
-BWindow::_FocusReported(const BMessage& report, BView* view)
-{
-	if (report.FindInt32("serial") != fWindow->focus_serial)
-		return;
-	if (report.what == focus_gained)
-		_FollowFocus(view);
-	else if (fWindow->focus == view)
-		_FollowFocus(nullptr);
 }
 
 

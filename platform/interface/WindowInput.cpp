@@ -111,25 +111,72 @@ BWindow::_DeliverPointer(BMessage* message)
 		under = nullptr;
 	if (message->what == pointer_left)
 		message->what = B_MOUSE_MOVED;
-	if (message->what == B_MOUSE_MOVED)
+	if (message->what == B_MOUSE_MOVED) {
 		_PointerMoved(message, under);
-	else if (under)
+		return;
+	}
+	int32 meant = under ? under->fToken : 0;
+	// Pressed without a move before: the next move may leave it all the same.
+	if (under) {
+		fWindow->under_pointer = meant;
 		_SendPointer(*message, under, B_INSIDE_VIEW);
+	}
+	if (message->what != B_MOUSE_WHEEL_CHANGED)
+		_TellWatchers(*message, B_POINTER_EVENTS, {meant});
+	if (message->what == B_MOUSE_UP && message->FindInt32("buttons") == 0)
+		_EndPress();
 }
 
 
 void
 BWindow::_PointerMoved(BMessage* message, BView* under)
 {
-	auto* before = dynamic_cast<BView*>(registry::find(fWindow->under_pointer, fToken));
+	int32 left = fWindow->under_pointer;
+	auto* before = dynamic_cast<BView*>(registry::find(left, fToken));
 	fWindow->under_pointer = under ? under->fToken : 0;
 	if (before && before != under)
 		_SendPointer(*message, before, B_EXITED_VIEW);
 	bool entered = before != under;
 	// Found anew: what a view did when it was left may have removed this one.
 	under = dynamic_cast<BView*>(registry::find(fWindow->under_pointer, fToken));
+	std::vector<int32> told = {left, fWindow->under_pointer};
 	if (under)
 		_SendPointer(*message, under, entered ? B_ENTERED_VIEW : B_INSIDE_VIEW);
+	_TellWatchers(*message, B_POINTER_EVENTS, told);
+}
+
+
+// Each view that asked for such events and has not been told of this one. Whoever is told may
+// remove others.
+void
+BWindow::_TellWatchers(const BMessage& message, uint32 mask, const std::vector<int32>& told)
+{
+	std::vector<int32> watchers = fWindow->watchers;
+	for (int32 token : watchers) {
+		auto* view = dynamic_cast<BView*>(registry::find(token, fToken));
+		if (!view || std::find(told.begin(), told.end(), token) != told.end())
+			continue;
+		if (!((view->fState->event_mask | view->fState->press_mask) & mask))
+			continue;
+		if (mask == B_POINTER_EVENTS)
+			_SendPointer(message, view, B_OUTSIDE_VIEW);
+		else {
+			BMessage copy(message);
+			_DispatchTo(&copy, view);
+		}
+	}
+}
+
+
+// The last button is up: what was asked for until then is over.
+void
+BWindow::_EndPress()
+{
+	std::vector<int32> watchers = fWindow->watchers;
+	for (int32 token : watchers) {
+		if (auto* view = dynamic_cast<BView*>(registry::find(token, fToken)))
+			view->_Watch(view->fState->press_mask, 0);
+	}
 }
 
 
@@ -162,8 +209,11 @@ BWindow::_DeliverKey(BMessage* message)
 	const char* bytes = message->FindString("bytes");
 	if (!focus && down && bytes && bytes[0] == B_TAB)
 		_Navigate(!(message->FindInt32("modifiers") & B_SHIFT_KEY));
-	else
+	else {
+		int32 meant = focus ? focus->fToken : 0;
 		_DispatchTo(message, focus ? static_cast<BHandler*>(focus) : this);
+		_TellWatchers(*message, B_KEYBOARD_EVENTS, {meant});
+	}
 }
 
 
@@ -211,43 +261,4 @@ BWindow::_DeliverDrop(BMessage* message)
 	BView* under = fWindow->root->_ViewAt(where);
 	bool inside = under && under != fWindow->root;
 	_DispatchTo(message, inside ? static_cast<BHandler*>(under) : this);
-}
-
-
-// Gives the keyboard to the next view that takes part in the walk, in the order of the tree.
-void
-BWindow::_Navigate(bool forward)
-{
-	std::vector<BView*> stops;
-	fWindow->root->_CollectNavigable(stops);
-	if (stops.empty())
-		return;
-	if (!forward)
-		std::reverse(stops.begin(), stops.end());
-	auto here = std::find(stops.begin(), stops.end(), fWindow->focus);
-	if (here == stops.end() || ++here == stops.end())
-		here = stops.begin();
-	// Round to where it began is left and entered again, so that a field alone confirms too.
-	if (*here == fWindow->focus)
-		(*here)->MakeFocus(false);
-	(*here)->MakeFocus(true);
-}
-
-
-void
-BView::_CollectNavigable(std::vector<BView*>& stops)
-{
-	if (fState->hidden > 0)
-		return;
-	if (fState->flags & B_NAVIGABLE && _TakesKeyboard())
-		stops.push_back(this);
-	for (BView* child : fState->children)
-		child->_CollectNavigable(stops);
-}
-
-
-bool
-BView::_TakesKeyboard() const
-{
-	return true;
 }

@@ -24,6 +24,9 @@ struct view_state {
 	uint32 flags = 0;
 	int32 hidden = 0;
 	BScrollBar* bars[2] = {nullptr, nullptr};
+	// What the view hears of although it is not the one meant: for good, and until no button is held.
+	uint32 event_mask = 0;
+	uint32 press_mask = 0;
 
 	rgb_color view_color = {255, 255, 255, 255};
 	drawing_state drawing;

@@ -6,6 +6,7 @@
 #include "display/window_peer.h"
 
 #include <string>
+#include <vector>
 #include <View.h>
 
 namespace kits {
@@ -47,6 +48,9 @@ struct window_state {
 	int32 focus_serial = 0;
 	// Token of the view that the pointer was over last.
 	int32 under_pointer = 0;
+	// Tokens of the views that have an event mask.
+	std::vector<int32> watchers;
+	const std::shared_ptr<pointer_record> pointer = std::make_shared<pointer_record>();
 	// Something was invalidated or drawn since the last flush.
 	bool dirty = false;
 };

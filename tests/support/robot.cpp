@@ -678,6 +678,14 @@ void
 robot::answer_panel(const std::string& path)
 {
 	settle();
+	// Typed into without the keyboard, the field would leave an earlier choice in force.
+	as_event([] {
+		if (QFileDialog* panel = shown_panel()) {
+			panel->activateWindow();
+			panel->findChild<QLineEdit*>("fileNameEdit")->setFocus();
+		}
+	});
+	settle();
 	as_event([&] {
 		QFileDialog* panel = shown_panel();
 		if (!panel)

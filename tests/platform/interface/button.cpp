@@ -76,6 +76,7 @@ TEST(button, is_invoked_by_each_of_two_quick_clicks)
 {
 	with_form([](form& page, robot& user) {
 		BButton& button = page.button(place, "push");
+		user.settle();
 		user.act([](QWidget& window) {
 			click_into(window, BPoint(30, 20));
 			click_into(window, BPoint(30, 20));
@@ -204,6 +205,7 @@ TEST(button, removed_by_its_own_message_does_no_harm)
 			if (page.RemoveChild(page.FindView("push")))
 				delete &button;
 		};
+		user.settle();
 		user.act([](QWidget& window) {
 			click_into(window, BPoint(30, 20));
 			click_into(window, BPoint(30, 20));

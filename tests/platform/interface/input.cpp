@@ -114,6 +114,23 @@ TEST(input, a_move_with_a_button_held_tells_which)
 }
 
 
+TEST(input, moves_enter_stay_inside_and_exit)
+{
+	with_window([](test_window& window, robot& user) {
+		test_view& view = add_target(window);
+		user.move(BPoint(20, 10));
+		user.move(BPoint(119, 79));
+		user.move(BPoint(120, 79));
+		user.move(BPoint(150, 79));
+		window.locked([&] {
+			EXPECT_EQ(view.pointer,
+				(journal{"moved 0 0 entered", "moved 99 69 inside", "moved 100 69 exited"}));
+		});
+		EXPECT_EQ(window.last_dispatched(B_MOUSE_MOVED).FindInt32("be:transit"), 2);
+	});
+}
+
+
 TEST(input, a_move_from_view_to_view_exits_one_before_it_enters_the_other)
 {
 	with_window([](test_window& window, robot& user) {
@@ -246,6 +263,22 @@ TEST(input, a_view_that_is_moved_is_met_at_its_new_place)
 		user.press(BPoint(150, 60));
 		user.release(BPoint(50, 60));
 		window.locked([&] { EXPECT_EQ(view.pointer, journal{"down 50 40"}); });
+	});
+}
+
+
+TEST(input, a_release_elsewhere_is_for_the_view_there)
+{
+	with_window([](test_window& window, robot& user) {
+		test_view& view = add_target(window);
+		auto& other = window.add(new test_view(BRect(130, 10, 199, 79), "other"));
+		user.press(BPoint(50, 45));
+		user.move(BPoint(140, 45));
+		user.release(BPoint(140, 45));
+		window.locked([&] {
+			EXPECT_EQ(view.pointer, (journal{"down 30 35", "moved 120 35 exited"}));
+			EXPECT_EQ(other.pointer, (journal{"moved 10 35 entered", "up 10 35"}));
+		});
 	});
 }
 

@@ -76,6 +76,18 @@ TEST(clicks, quick_presses_count_on)
 }
 
 
+TEST(clicks, a_double_click_of_the_desktop_is_one_press_more)
+{
+	with_window([](test_window& window, robot& user) {
+		clicking_hand hand(window, user);
+		EXPECT_EQ(hand.press(0), 1);
+		EXPECT_EQ(hand.press(200, BPoint(50, 50), true), 2);
+		EXPECT_EQ(hand.press(400), 3);
+		EXPECT_EQ(window.dispatched(B_MOUSE_DOWN).size(), 3U);
+	});
+}
+
+
 TEST(clicks, a_slow_press_starts_again)
 {
 	with_window([](test_window& window, robot& user) {

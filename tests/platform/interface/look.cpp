@@ -27,6 +27,7 @@ with_line(float width, float divider, const char* label, const char* text,
 			new BTextControl(BRect(10, 10, 10 + width - 1, 30), "field", label, text, nullptr);
 		field->SetDivider(divider);
 		page.put(field);
+		user.settle();
 		user.act([&](QWidget& window) {
 			auto* line = window.findChild<QLineEdit*>();
 			ASSERT_NE(line, nullptr);

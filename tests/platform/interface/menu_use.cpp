@@ -40,6 +40,7 @@ bool
 choose(robot& user, const char* label)
 {
 	bool found = false;
+	user.settle();
 	user.act([&](QWidget& window) {
 		for (const QMenu* menu : window.findChildren<QMenu*>()) {
 			for (QAction* action : menu->actions()) {
@@ -60,6 +61,7 @@ journal
 shown_items(robot& user)
 {
 	journal labels;
+	user.settle();
 	user.act([&](QWidget& window) {
 		auto* bar = window.findChild<QMenuBar*>();
 		for (const QAction* action : bar->actions().at(0)->menu()->actions())
@@ -311,6 +313,7 @@ TEST(menu_use, a_disabled_submenu_cannot_be_opened)
 		of.file->ItemAt(2)->SetEnabled(false);
 		window.AddChild(of.bar);
 		bool enabled = true;
+		user.settle();
 		user.act([&](QWidget& widget) {
 			auto* bar = widget.findChild<QMenuBar*>();
 			enabled = bar->actions().at(0)->menu()->actions().at(2)->isEnabled();

@@ -291,6 +291,24 @@ TEST(file_panel, asks_before_a_file_is_replaced)
 }
 
 
+TEST(file_panel, goes_on_when_a_file_is_not_to_be_replaced)
+{
+	with_desk([](desk& of) {
+		auto panel = of.panel(B_SAVE_PANEL);
+		panel->Show();
+		of.user.answer_panel("one.ttf");
+		EXPECT_TRUE(of.user.press_question("Cancel"));
+		EXPECT_TRUE(panel->IsShowing());
+		EXPECT_TRUE(of.user.panel_is_open());
+		EXPECT_FALSE(of.user.press_question("Replace"));
+		EXPECT_EQ(of.window.dispatched(B_SAVE_REQUESTED).size(), 0U);
+		EXPECT_EQ(of.window.dispatched(B_CANCEL).size(), 0U);
+		of.user.answer_panel("three.ttf");
+		EXPECT_STREQ(of.window.last_dispatched(B_SAVE_REQUESTED).FindString("name"), "three.ttf");
+	});
+}
+
+
 TEST(file_panel, touches_no_file_itself)
 {
 	with_desk([](desk& of) {
