@@ -6,6 +6,7 @@
 #include "display/fonts.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -73,9 +74,13 @@ public:
 	void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
 		const QWidget* widget) const override
 	{
+		bool ticks = qobject_cast<const QCheckBox*>(widget);
 		if (element == PE_FrameLineEdit || element == PE_PanelLineEdit)
 			_DrawField(option, painter);
-		else
+		else if (element == PE_IndicatorCheckBox && ticks)
+			_DrawTick(option, painter);
+		// The box itself shows who has the keyboard.
+		else if (element != PE_FrameFocusRect || !ticks)
 			QProxyStyle::drawPrimitive(element, option, painter, widget);
 	}
 
@@ -85,7 +90,9 @@ public:
 		if (element == CE_PushButtonBevel)
 			_DrawBevel(option, painter);
 		else if (element == CE_PushButtonLabel)
-			_DrawLabel(option, painter);
+			_DrawText(option, Qt::AlignCenter, button_margin, painter);
+		else if (element == CE_CheckBoxLabel)
+			_DrawText(option, Qt::AlignLeft | Qt::AlignVCenter, 0, painter);
 		else if (element == CE_MenuBarItem && !(option->state & State_Selected))
 			_DrawMenuTitle(option, painter);
 		else
@@ -101,6 +108,27 @@ private:
 		painter->fillRect(option->rect, colours.base());
 		painter->setPen(focused ? colours.highlight().color() : colours.dark().color());
 		painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+	}
+
+	// A box with a cross in it, or none.
+	static void _DrawTick(const QStyleOption* option, QPainter* painter)
+	{
+		_DrawField(option, painter);
+		const QPalette& colours = option->palette;
+		if (option->state & State_Sunken)
+			painter->fillRect(option->rect.adjusted(1, 1, -1, -1), colours.mid());
+		if (!(option->state & State_On))
+			return;
+		bool enabled = option->state & State_Enabled;
+		QRectF cross = QRectF(option->rect).adjusted(2.5, 2.5, -2.5, -2.5);
+		painter->save();
+		painter->setRenderHint(QPainter::Antialiasing);
+		painter->setPen(
+			QPen(colours.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::Text),
+				1.75, Qt::SolidLine, Qt::RoundCap));
+		painter->drawLine(cross.topLeft(), cross.bottomRight());
+		painter->drawLine(cross.bottomLeft(), cross.topRight());
+		painter->restore();
 	}
 
 	static void _DrawBevel(const QStyleOption* option, QPainter* painter)
@@ -122,16 +150,18 @@ private:
 		painter->drawText(title->rect, Qt::AlignCenter | Qt::TextShowMnemonic, title->text);
 	}
 
-	static void _DrawLabel(const QStyleOption* option, QPainter* painter)
+	// As much of a label as there is room for.
+	static void _DrawText(
+		const QStyleOption* option, Qt::Alignment alignment, int margin, QPainter* painter)
 	{
 		auto* button = static_cast<const QStyleOptionButton*>(option);
-		QRect room = button->rect.adjusted(button_margin, 0, -button_margin, 0);
+		QRect room = button->rect.adjusted(margin, 0, -margin, 0);
 		QString text = button->fontMetrics.elidedText(
 			button->text, Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
 		bool enabled = button->state & State_Enabled;
 		painter->setPen(button->palette.color(
 			enabled ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-		painter->drawText(room, Qt::AlignCenter | Qt::TextSingleLine | Qt::TextHideMnemonic, text);
+		painter->drawText(room, (int)alignment | Qt::TextSingleLine | Qt::TextHideMnemonic, text);
 	}
 };
 
@@ -191,10 +221,20 @@ kits::fitted(const QFont& font, const QString& text, int room)
 	QFont narrow(font);
 	// Hinted, a narrow letter would be widened again to whole pixels.
 	narrow.setHintingPreference(QFont::PreferNoHinting);
-	for (int stretch : {92, 85, 80, 75}) {
+	for (int stretch : {92, 85, 80, 75, 70, 65}) {
 		narrow.setStretch(stretch);
 		if (QFontMetrics(narrow).horizontalAdvance(text) <= room)
 			break;
 	}
 	return narrow;
+}
+
+
+// Eliding measures to a fraction of a pixel: alone it would cut a text that was found to fit.
+QString
+kits::shortened(const QFont& font, const QString& text, int room)
+{
+	QFontMetrics metrics(font);
+	bool fits = metrics.horizontalAdvance(text) <= room;
+	return fits ? text : metrics.elidedText(text, Qt::ElideRight, room);
 }

@@ -32,6 +32,7 @@ public:
 	virtual void SetValue(int32 value);
 	int32 Value() const;
 	virtual void SetEnabled(bool enabled);
+	void SetFont(const BFont* font, uint32 mask = B_FONT_ALL) override;
 	bool IsEnabled() const;
 	status_t Invoke(BMessage* message = NULL) override;
 

@@ -93,6 +93,14 @@ BControl::Invoke(BMessage* message)
 
 
 void
+BControl::SetFont(const BFont* font, uint32 mask)
+{
+	BView::SetFont(font, mask);
+	_TellPeer();
+}
+
+
+void
 BControl::AttachedToWindow()
 {
 	if (const BView* parent = fState->parent) {

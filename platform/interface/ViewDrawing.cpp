@@ -94,7 +94,9 @@ BView::SetFont(const BFont* font, uint32 mask)
 void
 BView::SetFontSize(float size)
 {
-	fState->drawing.font.SetSize(size);
+	BFont font;
+	font.SetSize(size);
+	SetFont(&font, B_FONT_SIZE);
 }
 
 

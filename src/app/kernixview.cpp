@@ -5,10 +5,12 @@
 
 #include "app/kernixwindow.h"
 #include "app/selectview.h"
+#include "editor/glyfeditview.h"
 #include "font/globals.h"
 #include "font/messages.h"
 #include "font/ttf.h"
 #include "font/ttf_table.h"
+#include "outline/ttf_glyf.h"
 #include <AppDefs.h>
 #include <Font.h>
 #include <Message.h>
@@ -103,8 +105,13 @@ kernixview::init()
 	}
 	BMessenger(mainwindow()->selector).SendMessage(&list);
 
+	BMessage init = init_message(*curttf);
+	if (curttf->glyf != nullptr) {
+		BMessenger(curttf->glyf->edit).SendMessage(&init);
+		return;
+	}
 	// Without an outline view nobody else sets the canvas and ends the application's wait.
-	canvas = init_message(*curttf).FindRect("bounds");
+	canvas = init.FindRect("bounds");
 	canvasok = 1;
 	canvasok.notify_all();
 }
@@ -118,7 +125,7 @@ kernixview::clr()
 		BMessage none(msg_tables);
 		BMessenger(window->selector).SendMessage(&none);
 		window->Zoom();
-		scroll(this);
+		scroll(this, nullptr);
 	}
 	if (curttf != nullptr)
 		curttf->reset_view(this);
@@ -157,9 +164,14 @@ kernixview::choose(uint32 tag)
 		if (table == nullptr)
 			continue;
 		Window()->Zoom();
-		table->show(table->tag == tag);
-		if (table->tag == tag)
-			scroll(table);
+		if (table->tag != tag) {
+			table->show(false);
+		} else if (tag == 'glyf') {
+			show_editor(static_cast<ttf_glyf*>(table));
+		} else {
+			table->show(true);
+			scroll(table, nullptr);
+		}
 	}
 	if (tag != 0) {
 		BMessage chosen(msg_table);
@@ -169,9 +181,23 @@ kernixview::choose(uint32 tag)
 }
 
 
-// The scroll bars range over the target as it stands; the window grows no larger than a panel.
+// At scale 1 the window measures the edit view, not the outline; at its own the edit view then sets
+// how far there is to scroll.
 void
-kernixview::scroll(BView* target)
+kernixview::show_editor(ttf_glyf* table)
 {
-	mainwindow()->settarget(BRect(400, 300, 561, 511), target, nullptr, 0, 0);
+	float scale = table->edit->getscale();
+	table->edit->chgscale(1);
+	table->show(true);
+	scroll(table->edit, table->edit);
+	table->edit->chgscale(scale);
+}
+
+
+// The scroll bars range over the target as it stands; the window grows no larger than a panel. The
+// mouse messages of the handler, unless it is null, are recorded from then on.
+void
+kernixview::scroll(BView* target, BView* handler)
+{
+	mainwindow()->settarget(BRect(400, 300, 561, 511), target, handler, 0, 0);
 }

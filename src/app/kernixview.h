@@ -11,6 +11,7 @@
 class BMessage;
 class kernixwindow;
 class ttf;
+class ttf_glyf;
 
 // The 'init' message for a font: "bounds" is its design box moved to the origin, y downward.
 BMessage init_message(const ttf& font);
@@ -37,7 +38,8 @@ private:
 	kernixwindow* mainwindow() const;
 	void show_panel(file_panel_mode mode);
 	void choose(uint32 tag);
-	void scroll(BView* target);
+	void show_editor(ttf_glyf* table);
+	void scroll(BView* target, BView* handler);
 
 	// The latest file panel. When the application clears fpanel, this one has answered.
 	std::unique_ptr<BFilePanel> panel;

@@ -7,6 +7,7 @@
 #include "app/kernixwindow.h"
 #include "font/bytes.h"
 #include "font/messages.h"
+#include "font/palette.h"
 #include "outline/glyph.h"
 #include <algorithm>
 #include <Bitmap.h>
@@ -15,8 +16,6 @@
 #include <Font.h>
 #include <Message.h>
 #include <Messenger.h>
-
-static const rgb_color paper = {255, 204, 68, 255};
 
 // Where tags are written and where a click counts, in pixels.
 static const float first_column = 10;
@@ -41,7 +40,7 @@ selectview::~selectview() {}
 void
 selectview::AttachedToWindow()
 {
-	SetViewColor(paper);
+	SetViewColor(palette_color);
 	BFont font(be_plain_font);
 	font.SetSize(10);
 	SetFont(&font);
@@ -95,14 +94,9 @@ selectview::MessageReceived(BMessage* message)
 void
 selectview::redraw()
 {
-	if (image == nullptr || !image->Lock())
+	if (image == nullptr)
 		return;
-	BView view(image->Bounds(), "workview", 2, B_WILL_DRAW);
-	image->AddChild(&view);
-	paint(&view);
-	view.Sync();
-	image->RemoveChild(&view);
-	image->Unlock();
+	paint_on(image.get(), [this](BView* view) { paint(view); });
 	Draw(Bounds());
 }
 
@@ -139,7 +133,7 @@ selectview::paint(BView* view) const
 	BFont font;
 	GetFont(&font);
 	view->SetFont(&font);
-	view->SetLowColor(paper);
+	view->SetLowColor(palette_color);
 	view->FillRect(view->Bounds(), B_SOLID_LOW);
 	for (int32 i = 0; i < count; i++) {
 		uint8 tag[4];

@@ -7,3 +7,5 @@ ttf* curttf = nullptr;
 BRect canvas(0, 0, 0, 0);
 std::atomic<unsigned char> canvasok = 0;
 std::atomic<BFilePanel*> fpanel = nullptr;
+glyph* cur_glyph = nullptr;
+object* cur_object = nullptr;

@@ -8,6 +8,8 @@
 #include <Rect.h>
 
 class BFilePanel;
+class glyph;
+class object;
 class ttf;
 
 // The open font, or null. Owned by the application, which alone creates, replaces and destroys it,
@@ -29,5 +31,12 @@ extern std::atomic<unsigned char> canvasok;
 // The file panel on the screen, or null. Set by the work view, which owns the panel; set back to
 // null by the application when the panel has answered. Never used to reach the panel.
 extern std::atomic<BFilePanel*> fpanel;
+
+// The outline in the editor, and the object that a drawing tool is at, or null. Owned by the outline
+// edit view, one at a time, which makes the outline with itself; the outline outlives it, until the
+// next view is made. Window's thread; the view of a font that is being loaded is made in the
+// application's, while there is no other.
+extern glyph* cur_glyph;
+extern object* cur_object;
 
 #endif

@@ -14,6 +14,7 @@
 // B_SAVE_REQUESTED 'SAVE': the save panel, to the application; "directory" (entry reference),
 // "name" (string).
 // B_CANCEL: a file panel closed without a choice, to the application.
+// B_COPY, B_PASTE: the desktop's shortcuts, to the view that has the keyboard: an edit view.
 enum : uint32 {
 	// Menu "New" to the application. No fields.
 	msg_new = 'fine',
@@ -44,7 +45,42 @@ enum : uint32 {
 
 	// A slider of a panel to that panel: it has been moved, on the way and at the end. The fields
 	// of a control.
-	msg_slider_moved = 'Smov'
+	msg_slider_moved = 'Smov',
+
+	// A text field of an editor's palette to that palette: its text was confirmed. The fields of a
+	// control.
+	msg_entered = 'Tchg',
+
+	// A palette to its edit view: choose. "gno" (int16): this glyph; "chr" (int16): the glyph of this
+	// character; outlines also "psize" (int8): the pen's size, 0 to 100; "scale" (float): view
+	// pixels for each canvas unit, 0 to fit. Each is optional.
+	// The edit view to its palette: what has changed. "gno", "chr", "scale" as above, -1 for none;
+	// outlines also "compo" (int16, one for each component): its glyph; "empty" (bool): neither
+	// contours nor components; "mode" (int8): the tool.
+	msg_editor = 'Vchg',
+
+	// A palette to its edit view: write what is edited into the font. No fields.
+	msg_commit = 'Gset',
+
+	// The outline palette to its edit view: empty the glyph. No fields.
+	msg_clear = 'Gclr',
+
+	// The outline palette to its edit view: add a component. "sub" (int16): its glyph.
+	msg_add_component = 'Cadd',
+
+	// The outline palette to its edit view: take a component away. "no" (int8): which, from 0.
+	msg_del_component = 'Cdel',
+
+	// The outline palette to its edit view: take this tool. No fields.
+	msg_pointer = 'drpi',
+	msg_free = 'drfr',
+	msg_rect = 'drre',
+	msg_ellipse = 'drel',
+	msg_polygon = 'drpo',
+	msg_round = 'drro',
+
+	// Anybody to the outline edit view: paint everything. No fields.
+	msg_repaint = 'edrd'
 };
 
 #endif

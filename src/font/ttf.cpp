@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "font/ttf.h"
+#include "editor/glyfeditview.h"
 
 #include "bitmaps/ttf_ebdt.h"
 #include "bitmaps/ttf_eblc.h"
@@ -181,6 +182,8 @@ ttf::set_view(BView* parent)
 		table->show(false);
 		parent->AddChild(table);
 	}
+	if (glyf != nullptr)
+		glyf->edit->chgscale(0);
 }
 
 

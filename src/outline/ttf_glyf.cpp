@@ -3,6 +3,8 @@
 
 #include "outline/ttf_glyf.h"
 
+#include "editor/glyfeditview.h"
+#include "editor/glyftoolview.h"
 #include "font/malloc32.h"
 #include "font/ttf.h"
 #include "outline/glyf_record.h"
@@ -11,8 +13,12 @@
 
 
 ttf_glyf::ttf_glyf(ttf* font, unsigned char* buffer, unsigned long size)
-	: ttf_table(font, 'glyf', buffer, size)
+	: ttf_table(font, 'glyf', buffer, size),
+	  tools(new glyftoolview(BRect(0, 0, 49, 511), this)),
+	  edit(new glyfeditview(BRect(50, 0, 561, 511), this))
 {
+	AddChild(tools);
+	AddChild(edit);
 	if (data == nullptr)
 		create_default();
 }

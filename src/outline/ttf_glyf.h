@@ -9,6 +9,8 @@
 #include <vector>
 
 class cursor;
+class glyfeditview;
+class glyftoolview;
 class glyph;
 
 // The glyph data, glyf: one outline record after the other, found through loca. Converts a record
@@ -17,6 +19,8 @@ class glyph;
 // All operations read within the table whatever a record or loca claims: a damaged record counts as
 // far as its bytes go. A record's stated length only tells whether it is empty. They always answer
 // 0.
+//
+// Its panel is the outline editor: the palette and the edit view, which send each other messages.
 class ttf_glyf : public ttf_table {
 public:
 	// As for every table: takes the buffer over. No buffer means an empty table.
@@ -49,6 +53,10 @@ public:
 
 	// The stored box in font units; (32767, 32767, -32768, -32768) for an empty glyph.
 	int get_rect(unsigned short index, short* xmin, short* ymin, short* xmax, short* ymax);
+
+	// The panel's children.
+	glyftoolview* tools;
+	glyfeditview* edit;
 
 private:
 	struct descent;

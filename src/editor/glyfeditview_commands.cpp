@@ -1,0 +1,271 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+// The outline edit view: what it is told by messages.
+#include "app/kernixwindow.h"
+#include "draw/object.h"
+#include "editor/glyfeditview.h"
+#include "font/globals.h"
+#include "font/messages.h"
+#include "font/ttf.h"
+#include "outline/glyph.h"
+#include "outline/ttf_glyf.h"
+#include "tables/ttf_cmap.h"
+#include <AppDefs.h>
+#include <cstdio>
+#include <memory>
+#include <Message.h>
+
+// 1.0 in 2.14.
+static const uint16 one = 0x4000;
+
+
+void
+glyfeditview::MessageReceived(BMessage* message)
+{
+	switch (message->what) {
+		case msg_init:
+			start(message);
+			break;
+		case msg_editor:
+			choose(message);
+			break;
+		case msg_commit:
+			commit();
+			break;
+		case msg_clear:
+			clear();
+			break;
+		case msg_add_component:
+			add_component(message);
+			break;
+		case msg_del_component:
+			del_component(message);
+			break;
+		case B_COPY:
+			copy();
+			break;
+		case B_PASTE:
+			paste();
+			break;
+		case msg_pointer:
+			take_tool(pointer_tool);
+			break;
+		case msg_free:
+			take_tool(free_tool);
+			break;
+		case msg_rect:
+			take_tool(rect_tool);
+			break;
+		case msg_ellipse:
+			take_tool(ellipse_tool);
+			break;
+		case msg_polygon:
+			take_tool(polygon_tool);
+			break;
+		case msg_round:
+			take_tool(round_tool);
+			break;
+		case msg_repaint:
+			redraw(draw_full);
+			break;
+		default:
+			BView::MessageReceived(message);
+	}
+}
+
+
+// A font has been loaded: its box gives the canvas. Whoever loaded it waits for canvasok.
+void
+glyfeditview::start(const BMessage* message)
+{
+	BRect bounds;
+	if (message->FindRect("bounds", &bounds) != B_OK)
+		return;
+	gno = -1;
+	load_glyph();
+	drop_object();
+	chgscale(1);
+	Window()->Zoom();
+	canvas = bounds;
+	canvasok = 1;
+	canvasok.notify_all();
+	init();
+	Window()->Zoom();
+	Invalidate();
+}
+
+
+// What the palette chose: a glyph by number or by character, the pen's size, the scale.
+void
+glyfeditview::choose(const BMessage* message)
+{
+	if (curttf == nullptr)
+		return;
+	ttf* font = glyf_table->owner;
+	int16 number;
+	bool by_number = message->FindInt16("gno", &number) == B_OK;
+	if (by_number) {
+		gno = (uint16)number < font->numglyphs() ? number : 0;
+		chr = (int16)font->cmap->get_chr((uint16)gno);
+	}
+	bool by_character = message->FindInt16("chr", &number) == B_OK;
+	if (by_character) {
+		chr = number;
+		gno = (int16)font->cmap->get_gno((uint16)chr);
+	}
+	if (by_number || by_character)
+		show_glyph();
+	int8 size;
+	if (message->FindInt8("psize", &size) == B_OK)
+		psize = (uint8)size;
+	float chosen;
+	if (message->FindFloat("scale", &chosen) == B_OK)
+		chgscale(chosen);
+}
+
+
+void
+glyfeditview::show_glyph()
+{
+	reset_editing();
+	load_glyph();
+	send2toolv(tell_glyph);
+	redraw(draw_full);
+	// Only the pointer can do anything with components.
+	if (is_composite())
+		take_tool(pointer_tool);
+}
+
+
+// What was in progress was done to the outline that goes.
+void
+glyfeditview::reset_editing()
+{
+	edit_state = idle;
+	band_active = 0;
+	drop_object();
+}
+
+
+// Reads the glyph afresh from the font; what was edited and not committed is gone.
+void
+glyfeditview::load_glyph()
+{
+	ttf* font = glyf_table->owner;
+	delete cur_glyph;
+	cur_glyph = new glyph((unsigned short)gno);
+	font->get_glyph((uint16)gno, cur_glyph);
+	cur_glyph->trans(font->bounds(), canvas);
+}
+
+
+void
+glyfeditview::commit()
+{
+	// What could not be shown whole must not take the place of the original.
+	if (gno == -1 || !cur_glyph->complete())
+		return;
+	ttf* font = glyf_table->owner;
+	cur_glyph->trans(canvas, font->bounds());
+	font->set_glyph((uint16)gno, cur_glyph);
+	reset_editing();
+	load_glyph();
+	send2toolv(tell_glyph);
+	redraw(draw_full);
+}
+
+
+void
+glyfeditview::clear()
+{
+	if (gno == -1)
+		return;
+	reset_editing();
+	delete cur_glyph;
+	cur_glyph = new glyph((unsigned short)gno);
+	send2toolv(tell_glyph);
+	redraw(draw_full);
+}
+
+
+void
+glyfeditview::add_component(const BMessage* message)
+{
+	int16 sub;
+	if (gno == -1 || message->FindInt16("sub", &sub) != B_OK)
+		return;
+	auto part = std::make_unique<glyph>((unsigned short)sub);
+	part->depth = 1;
+	if (glyf_table->owner->get_glyph((uint16)sub, part.get()) != 0)
+		return;
+	// A glyph with components keeps no contours of its own.
+	cur_glyph->clr_composhape();
+	if (!cur_glyph->add_compo(part.get(), 0, 0, one, 0, 0, one))
+		part.release();
+	place_components();
+	if (tool_mode != pointer_tool)
+		take_tool(pointer_tool);
+}
+
+
+void
+glyfeditview::del_component(const BMessage* message)
+{
+	int8 number;
+	if (gno == -1 || message->FindInt8("no", &number) != B_OK)
+		return;
+	cur_glyph->clr_composhape();
+	cur_glyph->del_compo((unsigned char)number);
+	place_components();
+}
+
+
+// The outline of the components and their handles, made anew.
+void
+glyfeditview::place_components()
+{
+	cur_glyph->create_composhape();
+	cur_glyph->trans(glyf_table->owner->bounds(), canvas);
+	send2toolv(tell_glyph);
+	redraw(draw_full);
+}
+
+
+void
+glyfeditview::copy()
+{
+	if (is_empty() || tool_mode != pointer_tool || edit_state != selecting)
+		return;
+	cur_glyph->copy();
+	redraw(draw_full);
+}
+
+
+// Nothing is pasted into an empty glyph, on purpose.
+void
+glyfeditview::paste()
+{
+	if (is_empty() || tool_mode != pointer_tool)
+		return;
+	printf("paste\n");
+	cur_glyph->paste();
+	redraw(draw_full);
+}
+
+
+void
+glyfeditview::take_tool(int8 tool)
+{
+	if (tool != pointer_tool && is_composite())
+		return;
+	redraw(draw_overlays);
+	// A stroke is not inverted and cannot be lifted.
+	bool inked = cur_object != nullptr && cur_object->kind == object::free_hand;
+	reset_editing();
+	cur_glyph->sel_none();
+	tool_mode = tool;
+	if (inked)
+		redraw(draw_full);
+	send2toolv(tell_mode);
+}
