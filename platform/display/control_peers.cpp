@@ -7,9 +7,6 @@
 #include "display/view_widget.h"
 
 #include <cmath>
-#include <QAction>
-#include <QMenu>
-#include <QMenuBar>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -17,15 +14,6 @@ using namespace kits;
 
 
 namespace {
-
-void
-send_report(report_address report, uint32 what, const char* field, int32 value)
-{
-	BMessage message(what);
-	message.AddInt32(field, value);
-	post_to(report.looper, report.handler, message);
-}
-
 
 // Qt's thumb is pageStep of range + pageStep; the kit's is a given part of the bar, and its large
 // step is its own. The thumb wins, since it is what one sees.
@@ -65,48 +53,6 @@ private:
 	int fLargeStep = 0;
 };
 
-
-void
-fill(QWidget* menu, const std::vector<menu_entry>& entries, report_address report)
-{
-	for (const menu_entry& entry : entries) {
-		QString label = QString::fromStdString(entry.label);
-		label.replace('&', "&&");
-		if (entry.opens) {
-			auto* submenu = new QMenu(label, menu);
-			fill(submenu, entry.entries, report);
-			submenu->menuAction()->setData(entry.id);
-			submenu->menuAction()->setEnabled(entry.enabled);
-			menu->addAction(submenu->menuAction());
-			continue;
-		}
-		auto* action = new QAction(label, menu);
-		action->setData(entry.id);
-		action->setCheckable(entry.marked);
-		action->setChecked(entry.marked);
-		action->setEnabled(entry.enabled);
-		QObject::connect(action, &QAction::triggered, [=] {
-			// Choosing has turned a mark off here, which is the program's to do.
-			action->setChecked(action->isCheckable());
-			send_report(report, menu_chosen, "id", entry.id);
-		});
-		menu->addAction(action);
-	}
-}
-
-
-QAction*
-find_action(const QWidget* menu, int32 id)
-{
-	for (QAction* action : menu->actions()) {
-		if (action->data().toInt() == id)
-			return action;
-		if (QAction* found = action->menu() ? find_action(action->menu(), id) : nullptr)
-			return found;
-	}
-	return nullptr;
-}
-
 }
 
 
@@ -120,8 +66,11 @@ control_peers::make_scroll_bar(const peer_ref& parent, BRect frame, bool shown, 
 			return;
 		auto* bar = new scroll_bar_widget(vertical ? Qt::Vertical : Qt::Horizontal, parent->widget);
 		bar->set(look);
-		QObject::connect(bar, &QScrollBar::valueChanged,
-			[=](int value) { send_report(report, scrolled, "value", value); });
+		QObject::connect(bar, &QScrollBar::valueChanged, [=](int value) {
+			BMessage message(scrolled);
+			message.AddInt32("value", value);
+			post_to(report.looper, report.handler, message);
+		});
 		adopt(made, bar, frame, shown);
 	});
 	return made;
@@ -134,54 +83,5 @@ control_peers::set_scroll_bar(const peer_ref& bar, const scroll_bar_look& look)
 	display::post([=] {
 		if (bar->widget)
 			static_cast<scroll_bar_widget*>(bar->widget)->set(look);
-	});
-}
-
-
-peer_ref
-control_peers::make_menu_bar(const peer_ref& parent, BRect frame, bool shown,
-	const std::vector<menu_entry>& entries, report_address report)
-{
-	auto made = std::make_shared<peer>();
-	display::post([=] {
-		if (!parent->widget)
-			return;
-		auto* bar = new QMenuBar(parent->widget);
-		bar->setNativeMenuBar(false);
-		fill(bar, entries, report);
-		adopt(made, bar, frame, shown);
-	});
-	return made;
-}
-
-
-void
-control_peers::set_menu_bar(
-	const peer_ref& bar, const std::vector<menu_entry>& entries, report_address report)
-{
-	display::post([=] {
-		if (!bar->widget)
-			return;
-		auto* widget = static_cast<QMenuBar*>(bar->widget);
-		for (QAction* action : widget->actions()) {
-			QObject* old = action->menu() ? static_cast<QObject*>(action->menu()) : action;
-			old->deleteLater();
-		}
-		widget->clear();
-		fill(widget, entries, report);
-	});
-}
-
-
-void
-control_peers::set_menu_entry(const peer_ref& bar, int32 id, bool marked, bool enabled)
-{
-	display::post([=] {
-		QAction* action = bar->widget ? find_action(bar->widget, id) : nullptr;
-		if (!action)
-			return;
-		action->setCheckable(marked);
-		action->setChecked(marked);
-		action->setEnabled(enabled);
 	});
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/field_peers.h"
 
+#include "display/button_widgets.h"
 #include "display/display.h"
 #include "display/focus.h"
 #include "display/text_widget.h"
@@ -32,6 +33,32 @@ field_peers::set_button(const peer_ref& button, const control_look& look)
 	display::post([=] {
 		if (button->widget)
 			static_cast<button_widget*>(button->widget)->set(look);
+	});
+}
+
+
+peer_ref
+field_peers::make_check_box(const peer_ref& parent, BRect frame, bool shown,
+	const control_look& look, report_address report)
+{
+	auto made = std::make_shared<peer>();
+	display::post([=] {
+		if (!parent->widget)
+			return;
+		auto* box = new check_widget(parent->widget, report);
+		adopt(made, box, frame, shown);
+		box->set(look);
+	});
+	return made;
+}
+
+
+void
+field_peers::set_check_box(const peer_ref& box, const control_look& look)
+{
+	display::post([=] {
+		if (box->widget)
+			static_cast<check_widget*>(box->widget)->set(look);
 	});
 }
 

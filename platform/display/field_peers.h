@@ -8,7 +8,7 @@
 
 namespace kits {
 
-// Reports of what a user did to a button or a field.
+// Reports of what a user did to a button, a check box or a field.
 constexpr uint32 control_invoked = '_INV';
 constexpr uint32 field_edited = '_EDT';  // string "text", int32 "serial"
 constexpr uint32 field_entered = '_ENT'; // the same, on Enter
@@ -24,6 +24,11 @@ namespace field_peers {
 peer_ref make_button(const peer_ref& parent, BRect frame, bool shown, const control_look& look,
 	report_address report);
 void set_button(const peer_ref& button, const control_look& look);
+
+// Ticked when the look's value is not 0.
+peer_ref make_check_box(const peer_ref& parent, BRect frame, bool shown, const control_look& look,
+	report_address report);
+void set_check_box(const peer_ref& box, const control_look& look);
 
 peer_ref make_text(const peer_ref& parent, BRect frame, bool shown, const control_look& look,
 	float divider, report_address report);

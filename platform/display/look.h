@@ -27,6 +27,9 @@ void explain_when_elided(QWidget& widget, const QString& text, int room);
 // narrowest.
 QFont fitted(const QFont& font, const QString& text, int room);
 
+// As much of the text as fits; all of it by the same measure as above.
+QString shortened(const QFont& font, const QString& text, int room);
+
 }
 
 #endif

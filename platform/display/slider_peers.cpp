@@ -5,12 +5,10 @@
 #include "display/convert.h"
 #include "display/display.h"
 #include "display/field_peers.h"
-#include "display/focus.h"
-#include "display/input.h"
+#include "display/keyboard_holder.h"
 #include "display/look.h"
 #include "display/view_widget.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -26,13 +24,11 @@ constexpr int label_gap = 4;
 
 
 // The bar and its thumb.
-class bar_widget : public QSlider {
+class bar_widget : public keyboard_holder<QSlider> {
 public:
-	bar_widget(QWidget* parent, report_address report)
-		: QSlider(Qt::Horizontal, parent),
-		  fReport(report)
+	bar_widget(QWidget* parent, report_address address)
+		: keyboard_holder(address, Qt::Horizontal, parent)
 	{
-		setAttribute(Qt::WA_NoMousePropagation);
 		connect(this, &QSlider::valueChanged, [this] { _Report(slider_moved); });
 		connect(this, &QSlider::sliderReleased, [this] { _Report(slider_released); });
 	}
@@ -81,30 +77,15 @@ protected:
 			_Report(slider_released);
 	}
 
-	void focusInEvent(QFocusEvent* event) override
-	{
-		QSlider::focusInEvent(event);
-		report_focus(*this, *event, fReport);
-	}
-
-	void focusOutEvent(QFocusEvent* event) override
-	{
-		QSlider::focusOutEvent(event);
-		report_focus(*this, *event, fReport);
-	}
-
-	bool focusNextPrevChild(bool next) override { return walk_focus(fReport.looper, next); }
-
 private:
 	void _Report(uint32 what)
 	{
 		BMessage message(what);
 		message.AddInt32("value", value());
 		message.AddInt32("serial", fSerial);
-		post_to(fReport.looper, fReport.handler, message);
+		report(message);
 	}
 
-	const report_address fReport;
 	int32 fSerial = 0;
 	QColor fBarColor;
 };

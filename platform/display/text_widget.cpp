@@ -15,85 +15,6 @@
 using namespace kits;
 
 
-namespace {
-
-void
-send(report_address report, uint32 what)
-{
-	post_to(report.looper, report.handler, BMessage(what));
-}
-
-}
-
-
-button_widget::button_widget(QWidget* parent, report_address report)
-	: QPushButton(parent),
-	  fReport(report)
-{
-	setAttribute(Qt::WA_NoMousePropagation);
-	connect(this, &QPushButton::clicked, [=] { send(report, control_invoked); });
-}
-
-
-void
-button_widget::set(const control_look& look)
-{
-	QString label = QString::fromStdString(look.label);
-	apply(look, *this);
-	// A click leaves the keyboard where it is; Tab may bring it here.
-	setFocusPolicy(look.navigable ? Qt::TabFocus : Qt::NoFocus);
-	setText(label.replace('&', "&&"));
-	explain_when_elided(*this, QString::fromStdString(look.label), width() - 6);
-}
-
-
-void
-button_widget::resizeEvent(QResizeEvent* event)
-{
-	QPushButton::resizeEvent(event);
-	explain_when_elided(*this, text().replace("&&", "&"), width() - 6);
-}
-
-
-void
-button_widget::keyPressEvent(QKeyEvent* event)
-{
-	if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-		if (!event->isAutoRepeat())
-			click();
-		return;
-	}
-	// Arrows would walk between buttons on their own.
-	if (event->key() == Qt::Key_Space)
-		QPushButton::keyPressEvent(event);
-	else
-		event->ignore();
-}
-
-
-void
-button_widget::focusInEvent(QFocusEvent* event)
-{
-	QPushButton::focusInEvent(event);
-	report_focus(*this, *event, fReport);
-}
-
-
-void
-button_widget::focusOutEvent(QFocusEvent* event)
-{
-	QPushButton::focusOutEvent(event);
-	report_focus(*this, *event, fReport);
-}
-
-
-bool
-button_widget::focusNextPrevChild(bool next)
-{
-	return walk_focus(fReport.looper, next);
-}
-
-
 line_widget::line_widget(QWidget* parent, report_address report)
 	: QLineEdit(parent),
 	  fReport(report)
@@ -251,7 +172,7 @@ text_widget::_Fit()
 {
 	QFont narrow = fitted(font(), fText, fLabel->width());
 	fLabel->setFont(narrow);
-	fLabel->setText(QFontMetrics(narrow).elidedText(fText, Qt::ElideRight, fLabel->width()));
+	fLabel->setText(shortened(narrow, fText, fLabel->width()));
 	explain_when_elided(*fLabel, fText, fLabel->width());
 	// What a number may need; longer texts scroll.
 	bool number = fLine->text().size() <= 8;

@@ -8,26 +8,8 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 namespace kits {
-
-class button_widget : public QPushButton {
-public:
-	button_widget(QWidget* parent, report_address report);
-
-	void set(const control_look& look);
-
-protected:
-	void resizeEvent(QResizeEvent* event) override;
-	void keyPressEvent(QKeyEvent* event) override;
-	void focusInEvent(QFocusEvent* event) override;
-	void focusOutEvent(QFocusEvent* event) override;
-	bool focusNextPrevChild(bool next) override;
-
-private:
-	const report_address fReport;
-};
 
 // The line that is edited.
 class line_widget : public QLineEdit {

@@ -6,6 +6,7 @@
 
 #include <Handler.h>
 #include <memory>
+#include <Message.h>
 #include <OS.h>
 
 namespace kits {

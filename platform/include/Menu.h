@@ -7,6 +7,7 @@
 #include <vector>
 #include <View.h>
 
+class BMenuField;
 class BMenuItem;
 
 enum menu_layout { B_ITEMS_IN_ROW = 0, B_ITEMS_IN_COLUMN = 1, B_ITEMS_IN_MATRIX = 2 };
@@ -31,6 +32,14 @@ public:
 	BMenuItem* FindItem(const char* label) const;
 	BMenuItem* FindItem(uint32 command) const;
 	menu_layout Layout() const;
+	// Choosing or marking an item unmarks the others.
+	virtual void SetRadioMode(bool radio);
+	bool IsRadioMode() const;
+	// A menu field that opens this menu says what is marked.
+	void SetLabelFromMarked(bool follows);
+	bool IsLabelFromMarked() const;
+	// The first one; null when none is marked.
+	BMenuItem* FindMarked();
 
 	// For the items present now.
 	virtual status_t SetTargetForItems(BHandler* target);
@@ -47,14 +56,19 @@ private:
 	friend struct menu_access;
 
 	bool _IsPainted() const override;
+	void _MakePeer() override;
 	void _ContentChanged();
+	void _Unmark(const BMenuItem* but);
 	BMenu* _Top();
 	BMenuItem* _ItemOf(int32 id) const;
 	void _AdoptTargets(BWindow* window);
 
 	std::vector<BMenuItem*> fItems;
 	BMenuItem* fSuperItem;
+	BMenuField* fField;
 	menu_layout fLayout;
+	bool fRadioMode;
+	bool fLabelFromMarked;
 };
 
 #endif

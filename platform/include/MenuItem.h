@@ -19,7 +19,7 @@ public:
 	~BMenuItem() override;
 
 	const char* Label() const;
-	// Marking one leaves the others alone.
+	// Marking one leaves the others alone, but in radio mode.
 	virtual void SetMarked(bool marked);
 	bool IsMarked() const;
 	virtual void SetEnabled(bool enabled);

@@ -5,6 +5,7 @@
 
 #include <Errors.h>
 #include <Menu.h>
+#include <MenuField.h>
 #include <MenuItem.h>
 #include <Message.h>
 #include <Window.h>
@@ -24,13 +25,18 @@ BMenu::BMenu(const char* name, menu_layout layout)
 BMenu::BMenu(BRect frame, const char* name, uint32 resizingMode, uint32 flags, menu_layout layout)
 	: BView(frame, name, resizingMode, flags),
 	  fSuperItem(nullptr),
-	  fLayout(layout)
+	  fField(nullptr),
+	  fLayout(layout),
+	  fRadioMode(false),
+	  fLabelFromMarked(false)
 {
 }
 
 
 BMenu::~BMenu()
 {
+	if (fField)
+		fField->fMenu = nullptr;
 	for (BMenuItem* item : fItems)
 		delete item;
 }
@@ -133,6 +139,55 @@ BMenu::Layout() const
 }
 
 
+void
+BMenu::SetRadioMode(bool radio)
+{
+	fRadioMode = radio;
+}
+
+
+bool
+BMenu::IsRadioMode() const
+{
+	return fRadioMode;
+}
+
+
+void
+BMenu::SetLabelFromMarked(bool follows)
+{
+	fLabelFromMarked = follows;
+	if (fField)
+		fField->_TellPeer();
+}
+
+
+bool
+BMenu::IsLabelFromMarked() const
+{
+	return fLabelFromMarked;
+}
+
+
+BMenuItem*
+BMenu::FindMarked()
+{
+	auto found = std::find_if(
+		fItems.begin(), fItems.end(), [](const BMenuItem* item) { return item->IsMarked(); });
+	return found == fItems.end() ? nullptr : *found;
+}
+
+
+void
+BMenu::_Unmark(const BMenuItem* but)
+{
+	for (BMenuItem* item : fItems) {
+		if (item != but && item->fMarked)
+			item->SetMarked(false);
+	}
+}
+
+
 status_t
 BMenu::SetTargetForItems(BHandler* target)
 {
@@ -176,8 +231,12 @@ BMenu::MessageReceived(BMessage* message)
 		BView::MessageReceived(message);
 		return;
 	}
-	if (BMenuItem* item = _ItemOf(message->FindInt32("id")))
-		item->Invoke();
+	BMenuItem* item = _ItemOf(message->FindInt32("id"));
+	if (!item)
+		return;
+	if (item->fMenu->fRadioMode)
+		item->SetMarked(true);
+	item->Invoke();
 }
 
 
@@ -211,8 +270,10 @@ BMenu::_ContentChanged()
 	BMenu* top = _Top();
 	if (top->fState->window)
 		top->_AdoptTargets(top->fState->window);
-	if (top->fState->widget) {
-		control_peers::set_menu_bar(top->fState->widget, menu_access::entries_of(*top),
+	if (top->fField)
+		top->fField->_TellPeer();
+	else if (top->fState->widget) {
+		menu_peers::set_menu_bar(top->fState->widget, menu_access::entries_of(*top),
 			{top->_WindowToken(), top->_Token()});
 	}
 }
@@ -222,6 +283,28 @@ bool
 BMenu::_IsPainted() const
 {
 	return false;
+}
+
+
+// A menu bar has one; other menus are shown by what they open from.
+void
+BMenu::_MakePeer()
+{
+}
+
+
+const char*
+menu_access::shown_label(const BMenu& menu)
+{
+	BMenuItem* marked = menu.fLabelFromMarked ? const_cast<BMenu&>(menu).FindMarked() : nullptr;
+	return marked ? marked->Label() : menu.Name();
+}
+
+
+void
+menu_access::set_field(BMenu& menu, BMenuField* field)
+{
+	menu.fField = field;
 }
 
 

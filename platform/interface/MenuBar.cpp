@@ -29,6 +29,6 @@ BMenuBar::AttachedToWindow()
 void
 BMenuBar::_MakePeer()
 {
-	fState->widget = control_peers::make_menu_bar(_ParentWidget(), _PeerFrame(),
-		fState->hidden <= 0, menu_access::entries_of(*this), {_WindowToken(), _Token()});
+	fState->widget = menu_peers::make_menu_bar(_ParentWidget(), _PeerFrame(), fState->hidden <= 0,
+		menu_access::entries_of(*this), {_WindowToken(), _Token()});
 }

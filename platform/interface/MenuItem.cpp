@@ -5,6 +5,7 @@
 
 #include <Errors.h>
 #include <Menu.h>
+#include <MenuField.h>
 #include <MenuItem.h>
 #include <Message.h>
 #include <OS.h>
@@ -65,6 +66,8 @@ BMenuItem::Label() const
 void
 BMenuItem::SetMarked(bool marked)
 {
+	if (marked && fMenu && fMenu->fRadioMode)
+		fMenu->_Unmark(this);
 	fMarked = marked;
 	_TellPeer();
 }
@@ -128,6 +131,8 @@ void
 BMenuItem::_TellPeer()
 {
 	BMenu* top = fMenu ? fMenu->_Top() : nullptr;
-	if (top && top->fState->widget)
-		control_peers::set_menu_entry(top->fState->widget, fId, fMarked, fEnabled);
+	if (top && top->fField)
+		top->fField->_TellPeer();
+	else if (top && top->fState->widget)
+		menu_peers::set_menu_entry(top->fState->widget, fId, fMarked, fEnabled);
 }

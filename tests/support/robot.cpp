@@ -134,6 +134,14 @@ shown_alert()
 }
 
 
+// Lists have bars that nobody sees.
+bool
+is_meant(const QScrollBar& bar, orientation posture)
+{
+	return bar.isVisible() && (bar.orientation() == Qt::Vertical) == (posture == B_VERTICAL);
+}
+
+
 QAction*
 find_item(const QWidget* window, const std::string& menu, const std::string& item)
 {
@@ -466,6 +474,9 @@ robot::has_keyboard(BPoint where)
 	bool has = false;
 	on_display([&] {
 		QWidget* found = _Window()->childAt((int)where.x, (int)where.y);
+		// The face of a list is a part of it.
+		while (found && found->focusProxy())
+			found = found->focusProxy();
 		has = found && _Window()->focusWidget() == found;
 	});
 	return has;
@@ -633,7 +644,7 @@ robot::scroll_bar(orientation posture)
 	std::vector<int> values;
 	on_display([&] {
 		for (QScrollBar* bar : _Window()->findChildren<QScrollBar*>()) {
-			if ((bar->orientation() == Qt::Vertical) == (posture == B_VERTICAL))
+			if (is_meant(*bar, posture))
 				values = {bar->minimum(), bar->maximum(), bar->value(), bar->pageStep()};
 		}
 	});
@@ -647,7 +658,7 @@ robot::drag_scroll_bar(orientation posture, int value)
 	settle();
 	as_event([&] {
 		for (QScrollBar* bar : _Window()->findChildren<QScrollBar*>()) {
-			if ((bar->orientation() == Qt::Vertical) == (posture == B_VERTICAL))
+			if (is_meant(*bar, posture))
 				bar->setValue(value);
 		}
 	});

@@ -81,6 +81,21 @@ public:
 	// Types ASCII text.
 	void type(const std::string& text);
 
+	// The list at that place: its rows as the screen has them, from the first to the last, and the
+	// numbers of the selected ones. A row is chosen by a click on it, wherever it had been scrolled
+	// to; false when there is none.
+	std::vector<std::string> list_rows(BPoint where);
+	std::vector<int> selected_rows(BPoint where);
+	bool choose_row(BPoint where, int row, int32 modifiers = 0);
+	// The check box of that label which can be seen. False when there is none.
+	bool tick(const std::string& label);
+	bool is_ticked(const std::string& label);
+	// The menu field at that place: what its button says, and the labels of its menu. An item is
+	// chosen by opening the menu and a click; false when it cannot be.
+	std::string menu_field_text(BPoint where);
+	std::vector<std::string> menu_field_items(BPoint where);
+	bool choose_menu_field(BPoint where, const std::string& item);
+
 	// Text of the field at that place, as the screen shows it; empty where there is none.
 	std::string field_text(BPoint where);
 	// True when the widget at that place has the keyboard on the display.

@@ -1,0 +1,27 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+#ifndef KITS_PEER_ACCESS_H
+#define KITS_PEER_ACCESS_H
+
+#include "display/control_look.h"
+#include "display/control_peers.h"
+
+class BMessage;
+class BView;
+
+// What views that the display paints, and that are no BControl, need of the kit's own parts.
+struct view_access {
+	static kits::peer_ref& widget_of(BView& view);
+	// For a view that is attached.
+	static kits::report_address address_of(const BView& view);
+	static kits::control_look look_of(const BView& view, const std::string& label);
+	// Nothing without a parent.
+	static void take_parent_colors(BView& view);
+};
+
+struct window_access {
+	// Deals with a report of the display's about the keyboard; false when the message is none.
+	static bool follow_focus(BView& view, const BMessage& message);
+};
+
+#endif
