@@ -1,6 +1,7 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 
+#include "glyphs.h"
 #include "load_save.h"
 #include "memory.h"
 #include "support/installed_fonts.h"
@@ -45,6 +46,24 @@ main(int argc, char** argv)
 			->Unit(benchmark::kMillisecond)
 			->Repetitions(7)
 			->ReportAggregatesOnly();
+	}
+	const struct {
+		const char* name;
+		void (*work)(benchmark::State&, const std::string&);
+		benchmark::TimeUnit unit;
+	} on_glyphs[] = {{"decode", decode_glyphs, benchmark::kMillisecond},
+		{"commit", commit_glyphs, benchmark::kMillisecond},
+		{"recount", recount_glyphs, benchmark::kMicrosecond},
+		{"lowest_character", lowest_characters, benchmark::kMillisecond}};
+	for (const auto& each : on_glyphs) {
+		for (const std::string& path : fonts(argc - 1, argv + 1)) {
+			std::string name = std::filesystem::path(path).filename();
+			benchmark::RegisterBenchmark((each.name + ("/" + name)).c_str(), each.work, path)
+				->UseManualTime()
+				->Unit(each.unit)
+				->Repetitions(7)
+				->ReportAggregatesOnly();
+		}
 	}
 	benchmark::RunSpecifiedBenchmarks();
 	benchmark::Shutdown();

@@ -63,64 +63,88 @@ read_flags(cursor& record, uint32 count)
 }
 
 
-// The coordinates of one axis, as sums of the steps; fewer where the bytes end.
-static std::vector<int32>
-read_axis(cursor& record, const std::vector<uint8>& flags, axis a)
+// What a step makes of the next two bytes, as factors: which form follows which is beyond any
+// processor's guess, and a table is quicker than a wrong one.
+struct step_form {
+	int32 of_byte;
+	int32 of_word;
+	uint32 size;
+};
+// By whether it is a byte, then whether it is positive or none at all.
+static constexpr step_form step_forms[4] = {{0, 1, 2}, {0, 0, 0}, {-1, 0, 1}, {1, 0, 1}};
+
+
+// The coordinates of one axis, as sums of the steps, into places that are there; gives how many
+// could be read before the bytes end.
+static uint32
+read_axis(cursor& record, const std::vector<uint8>& flags, axis a, float BPoint::*coordinate,
+	BPoint* places)
 {
-	std::vector<int32> values(flags.size());
+	if (record.failed())
+		return 0;
+	const uint8* at = record.rest();
+	const uint8* const end = at + record.left();
+	uint32 count = 0;
 	int32 sum = 0;
-	for (size_t i = 0; i < flags.size(); i++) {
-		bool same_or_positive = flags[i] & a.same_or_positive;
-		if (flags[i] & a.is_byte)
-			sum += same_or_positive ? record.u8() : -record.u8();
-		else if (!same_or_positive)
-			sum += record.s16();
-		if (record.failed()) {
-			values.resize(i);
+	for (uint8 flag : flags) {
+		uint32 kind = 2u * ((flag & a.is_byte) != 0) + ((flag & a.same_or_positive) != 0);
+		const step_form& form = step_forms[kind];
+		ptrdiff_t left = end - at;
+		if (left < (ptrdiff_t)form.size)
 			break;
-		}
-		values[i] = sum;
+		uint16 next = left >= 2 ? get16(at) : left == 1 ? (uint16)(at[0] << 8) : 0;
+		sum += (next >> 8) * form.of_byte + (int16)next * form.of_word;
+		at += form.size;
+		places[count++].*coordinate = (float)sum;
 	}
-	return values;
+	// One more than there are tells everybody that they have run out.
+	record.skip(count < flags.size() ? record.left() + 1 : (uint32)(at - record.rest()));
+	return count;
+}
+
+
+// A contour of points one after the other; the caller owns it.
+static shape*
+contour_of(const BPoint* places, const uint8* flags, uint32 count)
+{
+	shape* contour = new shape((int)count);
+	std::copy_n(places, count, contour->pts);
+	for (uint32 i = 0; i < count; i++)
+		contour->onoff[i] = (char)(1 - (flags[i] & on_curve));
+	contour->ctrlp2form();
+	return contour;
 }
 
 
 void
 ttf_glyf::decode_simple(cursor& record, int contours, glyph* g) const
 {
-	std::vector<uint32> ends(std::min((uint32)contours, record.left() / 2));
-	for (uint32& end : ends)
-		end = record.u16();
-	if (ends.size() < (size_t)contours)
-		g->partial = true;
-	if (ends.empty())
+	uint32 stated = std::min((uint32)contours, record.left() / 2);
+	g->partial |= stated < (uint32)contours;
+	if (stated == 0)
 		return;
+	cursor ends = record;
+	record.skip(2 * (stated - 1));
+	uint32 count = record.u16() + 1u;
 	record.skip(record.u16());
-	std::vector<uint8> flags = read_flags(record, ends.back() + 1);
-	std::vector<int32> x = read_axis(record, flags, x_axis);
-	std::vector<int32> y = read_axis(record, flags, y_axis);
-	if (record.failed())
-		g->partial = true;
+	std::vector<uint8> flags = read_flags(record, count);
+	std::vector<BPoint> places(flags.size());
+	uint32 xs = read_axis(record, flags, x_axis, &BPoint::x, places.data());
+	uint32 ys = read_axis(record, flags, y_axis, &BPoint::y, places.data());
+	g->partial |= record.failed();
 
 	uint32 start = 0;
-	uint32 known = (uint32)std::min(x.size(), y.size());
-	for (uint32 end : ends) {
-		uint32 stop = std::min(end + 1, known);
-		uint32 count = stop > start ? stop - start : 0;
-		uint32 kept = std::min(count, (uint32)shape::max_points);
-		if (end + 1 > known || end < start || kept < count)
+	uint32 known = std::min(xs, ys);
+	while (stated-- > 0) {
+		uint32 end = ends.u16() + 1u;
+		uint32 stop = std::min(end, known);
+		uint32 there = stop > start ? stop - start : 0;
+		uint32 kept = g->room() > 0 ? std::min(there, (uint32)shape::max_points) : 0;
+		if (end > known || end <= start || kept < there)
 			g->partial = true;
-		if (kept > 0 && g->room() > 0) {
-			shape* contour = new shape((int)kept);
-			for (uint32 i = 0; i < kept; i++) {
-				contour->pts[i] = BPoint((float)x[start + i], (float)y[start + i]);
-				contour->onoff[i] = (char)(1 - (flags[start + i] & on_curve));
-			}
-			contour->ctrlp2form();
-			g->add_shape(contour);
-		} else if (kept > 0)
-			g->partial = true;
-		start = end + 1;
+		if (kept > 0)
+			g->add_shape(contour_of(&places[start], &flags[start], kept));
+		start = end;
 	}
 }
 

@@ -8,13 +8,13 @@
 
 
 // Unset memory, not constructed points: filling eight kilobytes would cost more than decoding the
-// few points that most contours have.
+// few points that most contours have. So would a second array of its own: both lie in one.
 shape::shape(int n)
 	: sel(0),
 	  armed(0),
 	  num(std::clamp<int>(n, 0, max_points)),
-	  pts(static_cast<BPoint*>(operator new(max_points * sizeof(BPoint)))),
-	  onoff(new char[max_points])
+	  pts(static_cast<BPoint*>(operator new(max_points*(sizeof(BPoint) + 1)))),
+	  onoff(reinterpret_cast<char*>(pts + max_points))
 {
 }
 
@@ -22,7 +22,6 @@ shape::shape(int n)
 shape::~shape()
 {
 	operator delete(pts);
-	delete[] onoff;
 }
 
 

@@ -49,7 +49,7 @@ ttf_hmtx::create_default()
 	delete[] data;
 	uint32 count = owner->newglyphs();
 	length = record_size * count;
-	data = padded32(length);
+	data = malloc32((int)length);
 	for (uint32 i = 0; i < count; i++)
 		put16(record_size * i, 512);
 }

@@ -79,6 +79,15 @@ component(const glyph& of, int k)
 }
 
 
+numbers
+info(ttf& font, unsigned short index)
+{
+	unsigned short depth = 99, components = 99, contours = 99, points = 99;
+	EXPECT_EQ(font.glyf->get_info(index, &depth, &components, &contours, &points), 0);
+	return {depth, components, contours, points};
+}
+
+
 octets
 encoded(const glyph& g, const octets& old)
 {

@@ -34,6 +34,10 @@ std::string contours(const glyph& of);
 // Component k with all its numbers: "3: 200 -5 4000 0000 0000 4000".
 std::string component(const glyph& of, int k);
 
+// What get_info gives: depth, components, contours, points.
+using numbers = std::vector<unsigned>;
+numbers info(ttf& font, unsigned short index);
+
 // The record that the glyph makes in the place of an old one, alone in its table.
 octets encoded(const glyph& g, const octets& old = octets());
 
