@@ -3,9 +3,11 @@
 
 #include "app/kernix.h"
 
+#include "app/initview.h"
 #include "app/kernixview.h"
 #include "app/kernixwindow.h"
 #include "font/globals.h"
+#include "font/messages.h"
 #include "font/ttf.h"
 #include <Alert.h>
 #include <AppDefs.h>
@@ -44,6 +46,12 @@ void
 kernix::MessageReceived(BMessage* message)
 {
 	switch (message->what) {
+		case msg_new:
+			start();
+			break;
+		case msg_confirmed:
+			start2();
+			break;
 		case B_SAVE_REQUESTED:
 			save_request(message);
 			fpanel = nullptr;
@@ -77,6 +85,53 @@ kernix::AboutRequested()
 					   "An editor for TrueType fonts: tables, outlines, bitmaps.\n"
 					   "Made by the kernix authors.";
 	(new BAlert("", text, "Thank you", nullptr, nullptr, B_WIDTH_AS_USUAL, B_INFO_ALERT))->Go();
+}
+
+
+void
+kernix::start()
+{
+	ttf* font = new ttf;
+	if (!replace(font)) {
+		delete font;
+		return;
+	}
+	// Locked again for what is shown of it; nothing else makes or destroys a font.
+	if (!window->Lock())
+		return;
+	window->setupview = new initview(BRect(0, 0, 561, 511));
+	window->workview->AddChild(window->setupview);
+	window->Zoom();
+	window->Unlock();
+}
+
+
+void
+kernix::start2()
+{
+	if (!window->Lock())
+		return;
+	// A second "set" may have been on its way.
+	const bool chosen = window->setupview != nullptr;
+	if (chosen) {
+		end_setup();
+		curttf->init();
+	}
+	window->Unlock();
+	if (chosen)
+		handshake();
+}
+
+
+// With the window locked.
+void
+kernix::end_setup()
+{
+	if (window->setupview == nullptr)
+		return;
+	window->workview->RemoveChild(window->setupview);
+	delete window->setupview;
+	window->setupview = nullptr;
 }
 
 
@@ -127,6 +182,8 @@ kernix::replace(ttf* font)
 		return false;
 	if (curttf != nullptr) {
 		window->workview->clr();
+		// It looks at the font that goes.
+		end_setup();
 		delete curttf;
 	}
 	curttf = font;

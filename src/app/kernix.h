@@ -31,6 +31,10 @@ public:
 	// Shows the About box and waits until it is closed.
 	void AboutRequested() override;
 
+	// Begins a new font: takes the open one off the screen, destroys it and shows the set-up view.
+	void start();
+	// Makes the font as the set-up view has it and shows it; nothing unless that view is there.
+	void start2();
 	// Opens a font file in place of the open font. True on failure: then there is an empty font and
 	// an empty work view, or, when the window has gone, all is as it was.
 	bool load(entry_ref& ref);
@@ -44,6 +48,7 @@ public:
 
 private:
 	bool replace(ttf* font);
+	void end_setup();
 	void handshake();
 	bool write(entry_ref& directory, const char* name);
 	void save_request(const BMessage* message);

@@ -26,6 +26,7 @@ static const float strip_height = 32;
 kernixwindow::kernixwindow(BRect frame)
 	: BWindow(frame, "kernix ver.0.02", B_DOCUMENT_WINDOW, 0),
 	  input(),
+	  setupview(nullptr),
 	  canvaswidth(512),
 	  canvasheight(512),
 	  scrolltarget(nullptr),

@@ -9,6 +9,7 @@
 
 class BMenuBar;
 class BScrollBar;
+class initview;
 class kernixview;
 class selectview;
 
@@ -79,6 +80,7 @@ public:
 	struct input input;
 	kernixview* workview; // destroyed by the application, not with the window
 	selectview* selector;
+	initview* setupview; // in the work view while a new font is being set up, else null
 	BScrollBar* scrollv;
 	BScrollBar* scrollh;
 	float canvaswidth; // pixels

@@ -12,7 +12,6 @@
 #include "outline/ttf_glyf.h"
 #include "tables/ttf_cmap.h"
 #include <AppDefs.h>
-#include <cstdio>
 #include <memory>
 #include <Message.h>
 
@@ -248,7 +247,6 @@ glyfeditview::paste()
 {
 	if (is_empty() || tool_mode != pointer_tool)
 		return;
-	printf("paste\n");
 	cur_glyph->paste();
 	redraw(draw_full);
 }

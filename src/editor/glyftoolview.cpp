@@ -63,7 +63,7 @@ glyftoolview::glyftoolview(BRect frame, ttf_glyf* table)
 glyftoolview::~glyftoolview()
 {
 	if (compo_list != nullptr)
-		empty_list();
+		empty_list(compo_list);
 }
 
 
@@ -154,21 +154,12 @@ glyftoolview::paint(BView* view) const
 void
 glyftoolview::fill_list()
 {
-	empty_list();
+	empty_list(compo_list);
 	for (int i = 0; i < compo_count; i++) {
 		char text[8];
 		snprintf(text, sizeof text, "%04x", (uint16)compo[i]);
 		compo_list->AddItem(new BStringItem(text));
 	}
-}
-
-
-// The list does not own its rows.
-void
-glyftoolview::empty_list()
-{
-	while (BListItem* item = compo_list->RemoveItem((int32)0))
-		delete item;
 }
 
 
@@ -250,18 +241,6 @@ glyftoolview::learn(const BMessage* message)
 }
 
 
-// A hexadecimal number of a field, as far as 16 bits go: what is larger is no glyph's or
-// character's, like FFFF.
-static int16
-typed(const BTextControl* field, int16 otherwise)
-{
-	uint32 value;
-	if (!read_hex(field, &value))
-		return otherwise;
-	return (int16)std::min<uint32>(value, 0xFFFF);
-}
-
-
 void
 glyftoolview::entered(const void* source)
 {
@@ -270,9 +249,9 @@ glyftoolview::entered(const void* source)
 		if (first_character(chr_entry->Text(), &code))
 			choose("chr", (int16)code);
 	} else if (source == chr_code) {
-		choose("chr", typed(chr_code, 0));
+		choose("chr", palette_number(chr_code, 0));
 	} else if (source == gno_entry) {
-		choose("gno", typed(gno_entry, 0));
+		choose("gno", palette_number(gno_entry, 0));
 	}
 }
 
@@ -311,7 +290,7 @@ void
 glyftoolview::add()
 {
 	BMessage added(msg_add_component);
-	added.AddInt16("sub", typed(component_entry, none));
+	added.AddInt16("sub", palette_number(component_entry, none));
 	send(added);
 }
 

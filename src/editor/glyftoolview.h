@@ -66,7 +66,6 @@ private:
 	void make_controls();
 	void paint(BView* view) const;
 	void fill_list();
-	void empty_list();
 	void show_components(bool visible);
 	void show_texts();
 

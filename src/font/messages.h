@@ -47,15 +47,33 @@ enum : uint32 {
 	// of a control.
 	msg_slider_moved = 'Smov',
 
+	// To the panel of name. The list: a record was selected; "index" (int32), -1 for none. The
+	// buttons: begin a new record, delete the one selected, store what is typed. The fields of a
+	// control.
+	msg_name_selected = 'Nsel',
+	msg_name_add = 'Nadd',
+	msg_name_del = 'Ndel',
+	msg_name_set = 'Nset',
+
+	// The list of gasp's panel to that panel: a range was selected; "index" (int32), -1 for none.
+	msg_range_selected = 'Fsel',
+
+	// A check box of the set-up view to that view: it was ticked or not. The fields of a control.
+	msg_ticked = 'Bchk',
+
+	// The set-up view to the application: make the font as it is chosen. No fields.
+	msg_confirmed = 'cfge',
+
 	// A text field of an editor's palette to that palette: its text was confirmed. The fields of a
 	// control.
 	msg_entered = 'Tchg',
 
 	// A palette to its edit view: choose. "gno" (int16): this glyph; "chr" (int16): the glyph of this
 	// character; outlines also "psize" (int8): the pen's size, 0 to 100; "scale" (float): view
-	// pixels for each canvas unit, 0 to fit. Each is optional.
+	// pixels for each canvas unit, 0 to fit; bitmaps also "pt" (int16): the size, 256 times the
+	// pixels per em across plus those down. Each is optional.
 	// The edit view to its palette: what has changed. "gno", "chr", "scale" as above, -1 for none;
-	// outlines also "compo" (int16, one for each component): its glyph; "empty" (bool): neither
+	// bitmaps also "pt"; outlines also "compo" (int16, one for each component): its glyph; "empty" (bool): neither
 	// contours nor components; "mode" (int8): the tool.
 	msg_editor = 'Vchg',
 
@@ -78,6 +96,9 @@ enum : uint32 {
 	msg_ellipse = 'drel',
 	msg_polygon = 'drpo',
 	msg_round = 'drro',
+
+	// The menu of the bitmap palette to that palette: a size was chosen. "pt" (int16) as above.
+	msg_strike = 'Msel',
 
 	// Anybody to the outline edit view: paint everything. No fields.
 	msg_repaint = 'edrd'

@@ -55,6 +55,16 @@ palette_edit(BView* palette, BRect place, const char* name, const char* label, c
 }
 
 
+int16
+palette_number(const BTextControl* field, int16 otherwise)
+{
+	uint32 value;
+	if (!read_hex(field, &value))
+		return otherwise;
+	return (int16)std::min<uint32>(value, 0xFFFF);
+}
+
+
 BButton*
 palette_button(BView* palette, BRect place, const char* name)
 {

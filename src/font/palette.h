@@ -8,6 +8,7 @@
 #include <GraphicsDefs.h>
 #include <Point.h>
 #include <Rect.h>
+#include <SupportDefs.h>
 
 class BBitmap;
 class BButton;
@@ -33,6 +34,10 @@ void palette_arrow(BView* view, BPoint leftTop, arrow_direction direction);
 // becomes the palette's. The palette must be attached. The divider is the width of the label.
 BTextControl* palette_edit(BView* palette, BRect place, const char* name, const char* label,
 	const char* text, float divider);
+
+// The hexadecimal number typed in a field, as far as 16 bits go: what is larger is no glyph's or
+// character's, like FFFF. What is no number at all counts as the other value.
+int16 palette_number(const BTextControl* field, int16 otherwise);
 
 // Adds a button as panel_button() does.
 BButton* palette_button(BView* palette, BRect place, const char* name);

@@ -3,17 +3,14 @@
 
 #include "font/panel.h"
 
-#include "font/messages.h"
 #include "font/ttf_table.h"
 #include <Button.h>
 #include <cstdio>
+#include <ListView.h>
 #include <Message.h>
 #include <TextControl.h>
 
-// Pixels of the listing.
-static const float label_x = 20;
-static const float value_x = 170;
-static const float first_baseline = 20;
+// Pixels.
 static const float row_height = 15;
 
 
@@ -38,11 +35,11 @@ panel_clear(BView* panel, BRect area)
 
 
 void
-panel_row(BView* panel, int row, const char* label, const char* value)
+panel_row(BView* panel, int row, const char* label, const char* value, const panel_column& column)
 {
-	float baseline = first_baseline + row_height * (float)row;
-	panel->DrawString(label, BPoint(label_x, baseline));
-	panel->DrawString(value, BPoint(value_x, baseline));
+	float baseline = column.first + row_height * (float)row;
+	panel->DrawString(label, BPoint(column.label_x, baseline));
+	panel->DrawString(value, BPoint(column.value_x, baseline));
 }
 
 
@@ -53,6 +50,9 @@ field_text(const ttf_table& table, const panel_field& field)
 	if (table.length < (uint32)field.offset + field.size)
 		return text;
 	switch (field.size) {
+		case 1:
+			snprintf(text, sizeof text, "%02x", table.u8(field.offset));
+			break;
 		case 2:
 			snprintf(text, sizeof text, "%04x", table.u16(field.offset));
 			break;
@@ -68,11 +68,11 @@ field_text(const ttf_table& table, const panel_field& field)
 
 
 void
-panel_rows(ttf_table* panel, std::span<const panel_field> rows)
+panel_rows(ttf_table* panel, std::span<const panel_field> rows, const panel_column& column)
 {
 	int row = 0;
 	for (const panel_field& field : rows)
-		panel_row(panel, row++, field.label, field_text(*panel, field).c_str());
+		panel_row(panel, row++, field.label, field_text(*panel, field).c_str(), column);
 }
 
 
@@ -89,13 +89,36 @@ panel_edit(BView* panel, BRect place, const char* name, const char* label, float
 
 
 BButton*
-panel_button(BView* panel, BRect place, const char* name)
+panel_button(BView* panel, BRect place, const char* name, uint32 what)
 {
-	BButton* button = new BButton(place, name, name, new BMessage(msg_pressed),
+	BButton* button = new BButton(place, name, name, new BMessage(what),
 		B_FOLLOW_LEFT | B_FOLLOW_TOP, B_WILL_DRAW | B_NAVIGABLE);
 	panel->AddChild(button);
 	button->SetTarget(panel);
 	return button;
+}
+
+
+BListView*
+panel_listview(BView* panel, BRect place, const char* name, uint32 what)
+{
+	BListView* list = new BListView(place, name, B_SINGLE_SELECTION_LIST,
+		B_FOLLOW_LEFT | B_FOLLOW_TOP, B_WILL_DRAW | B_FRAME_EVENTS | B_NAVIGABLE);
+	list->SetHighColor(0, 0, 0);
+	list->SetLowColor(222, 222, 222);
+	list->SetViewColor(222, 222, 222);
+	list->SetSelectionMessage(new BMessage(what));
+	panel->AddChild(list);
+	list->SetTarget(panel);
+	return list;
+}
+
+
+void
+empty_list(BListView* list)
+{
+	for (int32 row = list->CountItems() - 1; row >= 0; row--)
+		delete list->RemoveItem(row);
 }
 
 

@@ -4,6 +4,7 @@
 #ifndef KERNIX_FONT_PANEL_H
 #define KERNIX_FONT_PANEL_H
 
+#include "font/messages.h"
 #include <cstddef>
 #include <Rect.h>
 #include <span>
@@ -11,6 +12,7 @@
 #include <SupportDefs.h>
 
 class BButton;
+class BListView;
 class BTextControl;
 class BView;
 class ttf_table;
@@ -23,7 +25,7 @@ class ttf_table;
 struct panel_field {
 	const char* label;
 	uint16 offset;
-	uint8 size; // 2, 4 or 8 bytes
+	uint8 size; // 1, 2, 4 or 8 bytes
 };
 
 // Whether the rows cover a table of this length: each starts where the one before ended.
@@ -54,23 +56,41 @@ void panel_colors(BView* panel);
 // White on black from here on, and all of the rectangle black.
 void panel_clear(BView* panel, BRect area);
 
+// Where a listing stands: its labels and values, and the baseline of its first row.
+struct panel_column {
+	float label_x;
+	float value_x;
+	float first;
+};
+
+constexpr panel_column panel_main = {20, 170, 20};
+
 // Writes a line of the listing, from row 0.
-void panel_row(BView* panel, int row, const char* label, const char* value);
+void panel_row(BView* panel, int row, const char* label, const char* value,
+	const panel_column& column = panel_main);
 
 // The value of a field; empty where the table is too short for it.
 std::string field_text(const ttf_table& table, const panel_field& field);
 
 // Lists these rows from row 0 on, each with the value that stands in the panel's bytes.
-void panel_rows(ttf_table* panel, std::span<const panel_field> rows);
+void panel_rows(
+	ttf_table* panel, std::span<const panel_field> rows, const panel_column& column = panel_main);
 
 // Adds a text field whose message is the panel's 'Vchg', aimed at the panel, and gives it; it
 // becomes the panel's. The panel must be attached. The divider is the width of the label.
 BTextControl* panel_edit(
 	BView* panel, BRect place, const char* name, const char* label, float divider);
 
-// Adds a button, labelled with its name, whose message is the panel's 'Bhit', aimed at the panel,
-// and gives it; it becomes the panel's. The panel must be attached.
-BButton* panel_button(BView* panel, BRect place, const char* name);
+// Adds a button, labelled with its name, whose message is of that code, aimed at the panel, and gives
+// it; it becomes the panel's. The panel must be attached.
+BButton* panel_button(BView* panel, BRect place, const char* name, uint32 what = msg_pressed);
+
+// Adds a list of single selection whose selection message is of that code, aimed at the panel, and
+// gives it; it becomes the panel's. The panel must be attached.
+BListView* panel_listview(BView* panel, BRect place, const char* name, uint32 what);
+
+// Removes and destroys the rows of a list, the last first.
+void empty_list(BListView* list);
 
 // The number typed in a field: true when its text begins with a hexadecimal one.
 bool read_hex(const BTextControl* control, uint32* value);

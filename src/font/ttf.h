@@ -10,6 +10,7 @@
 #include <vector>
 
 class BFile;
+class bitmap;
 class glyph;
 class BView;
 class ttf_table;
@@ -50,6 +51,10 @@ public:
 	ttf(const ttf&) = delete;
 	ttf& operator=(const ttf&) = delete;
 
+	// Makes the tables of a new font, in an empty one, for the choice in chrs, which is destroyed:
+	// OS/2, cmap, glyf, head, hhea, hmtx, loca, maxp, name and post, in this order. Gives 0.
+	int init();
+
 	// Reads a TrueType file into an empty font: 0, or 1 with the font empty again. Refused are a
 	// version other than 1.0, a directory cut short, a font without cmap, more than sixteen tables
 	// that are not modelled, and lengths out of all proportion to the file. A table that runs past
@@ -85,6 +90,12 @@ public:
 	// Writes g in the place of a glyph and moves those behind it. 0, or -1 with nothing changed
 	// when there is no such glyph or its place is not inside glyf.
 	int set_glyph(int index, const glyph* g);
+	// Reads the embedded bitmap of b's glyph and size. 0, or -1 when the font has none that can be
+	// read; b may have taken its metrics over, but pixels always have the size that b tells.
+	int get_bitmap(bitmap* b);
+	// Writes b's pixels over that bitmap, of which they must have the size. 0, or -1 with nothing
+	// changed.
+	int set_bitmap(bitmap* b);
 	// Statistics of every glyph from 0 on; empty ones for all that have no record.
 	std::vector<glyph_info> glyph_infos() const;
 
@@ -131,6 +142,7 @@ private:
 	unsigned char* entry(uint32 index) const;
 	// The object of a modelled tag, else null.
 	ttf_table* find(uint32 tag) const;
+	void make_dir(uint32 count);
 	bool load_dir(BFile& file);
 	bool in_proportion(uint64 size) const;
 	bool saves_in_proportion(uint64 size) const;

@@ -1,7 +1,11 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 
-// The container's way to single glyphs, through maxp, head, loca and glyf.
+// The container's way to single glyphs, through maxp, head, loca and glyf, and to their bitmaps,
+// through EBLC and EBDT.
+#include "bitmaps/bitmap.h"
+#include "bitmaps/ttf_ebdt.h"
+#include "bitmaps/ttf_eblc.h"
 #include "font/ttf.h"
 #include "font/ttf_head.h"
 #include "font/ttf_loca.h"
@@ -65,6 +69,30 @@ ttf::set_glyph(int index, const glyph* g)
 	unsigned long length = size;
 	glyf->encode(g, &place, &length);
 	return loca->chg_length(head->is32loca(), index, length);
+}
+
+
+int
+ttf::get_bitmap(bitmap* b)
+{
+	unsigned long offset;
+	unsigned short format;
+	if (eblc == nullptr || ebdt == nullptr || eblc->get_offset(b, &offset, &format) != 0)
+		return -1;
+	return ebdt->decode(offset, format, b) != 0 ? -1 : 0;
+}
+
+
+int
+ttf::set_bitmap(bitmap* b)
+{
+	// Looking up may give a bitmap another size than its pixels have.
+	bitmap place(b->glyph, b->ppemX, b->ppemY, b->bitDepth);
+	unsigned long offset;
+	unsigned short format;
+	if (eblc == nullptr || ebdt == nullptr || eblc->get_offset(&place, &offset, &format) != 0)
+		return -1;
+	return ebdt->encode(b, offset, format) != 0 ? -1 : 0;
 }
 
 

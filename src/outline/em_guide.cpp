@@ -21,11 +21,12 @@ glyph_in_em(ttf& font, uint16 index, BRect square)
 
 
 void
-draw_metric(BView* view, BRect square, int32 distance, uint16 unitsperem, rgb_color color)
+draw_metric(
+	BView* view, BRect square, int32 distance, uint16 unitsperem, rgb_color color, pattern fill)
 {
 	if (unitsperem == 0)
 		return;
 	float x = square.left + (square.Width() + 1) * (float)distance / (float)unitsperem;
 	view->SetHighColor(color);
-	view->StrokeLine(BPoint(x, square.top), BPoint(x, square.bottom));
+	view->StrokeLine(BPoint(x, square.top), BPoint(x, square.bottom), fill);
 }

@@ -24,7 +24,8 @@ constexpr rgb_color advance_color = {0, 255, 255, 255};
 std::unique_ptr<glyph> glyph_in_em(ttf& font, uint16 index, BRect square);
 
 // A metric line at a distance in font units from the left edge of the square, over its full height.
-// Nothing is drawn for a font of 0 units to the em.
-void draw_metric(BView* view, BRect square, int32 distance, uint16 unitsperem, rgb_color color);
+// Nothing is drawn for a font of 0 units to the em. Bitmaps count in pixels instead of font units.
+void draw_metric(BView* view, BRect square, int32 distance, uint16 unitsperem, rgb_color color,
+	pattern fill = B_SOLID_HIGH);
 
 #endif

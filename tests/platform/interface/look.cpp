@@ -110,7 +110,7 @@ TEST(look, letters_get_no_narrower_than_they_must)
 	});
 	with_line(45, 15, "x", "0000", [](QLineEdit& line, robot&) {
 		EXPECT_LT(line.font().stretch(), 100);
-		EXPECT_GE(line.font().stretch(), 75);
+		EXPECT_GE(line.font().stretch(), 65);
 		EXPECT_EQ(line.font().pixelSize(), 12);
 	});
 }
@@ -135,7 +135,7 @@ TEST(look, a_label_gets_narrower_before_it_is_cut)
 {
 	EXPECT_EQ(font_of_label(60, "label").stretch(), QFont().stretch());
 	EXPECT_LT(font_of_label(26, "label").stretch(), 100);
-	EXPECT_GE(font_of_label(15, "label").stretch(), 75);
+	EXPECT_GE(font_of_label(15, "label").stretch(), 65);
 }
 
 
