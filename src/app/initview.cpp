@@ -33,15 +33,17 @@ initview::initview(BRect)
 }
 
 
-initview::~initview() {}
+initview::~initview() = default;
 
 
 // Where the check box of a block stands.
 static BRect
 place_of(int index)
 {
-	const float left = 200.0f * (float)(index / rows);
-	const float top = 20.0f * (float)(index % rows) + 10;
+	const int column = index / rows;
+	const int row = index % rows;
+	const float left = 200.0f * (float)column;
+	const float top = 20.0f * (float)row + 10;
 	return BRect(left, top, left + 160, top + 15);
 }
 
@@ -114,7 +116,7 @@ initview::setchrs()
 			continue;
 		const unicode_range& range = unicode_ranges[i];
 		chosen.ranges[i] = 1;
-		memset(chosen.codes + range.first, 1, (size_t)(range.last - range.first + 1));
+		memset(chosen.codes + range.first, 1, (size_t)range.last - range.first + 1);
 		if (i == specials)
 			chosen.codes[byte_order_mark] = 1;
 	}

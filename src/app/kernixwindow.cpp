@@ -61,7 +61,7 @@ kernixwindow::kernixwindow(BRect frame)
 }
 
 
-kernixwindow::~kernixwindow() {}
+kernixwindow::~kernixwindow() = default;
 
 
 void

@@ -34,7 +34,7 @@ selectview::selectview(BRect frame)
 }
 
 
-selectview::~selectview() {}
+selectview::~selectview() = default;
 
 
 void

@@ -52,7 +52,7 @@ glyfeditview::glyfeditview(BRect frame, ttf_glyf* table)
 }
 
 
-glyfeditview::~glyfeditview() {}
+glyfeditview::~glyfeditview() = default;
 
 
 void

@@ -12,7 +12,6 @@
 #include "outline/ttf_glyf.h"
 #include "tables/ttf_cmap.h"
 #include <AppDefs.h>
-#include <memory>
 #include <Message.h>
 
 // 1.0 in 2.14.
@@ -194,14 +193,16 @@ glyfeditview::add_component(const BMessage* message)
 	int16 sub;
 	if (gno == -1 || message->FindInt16("sub", &sub) != B_OK)
 		return;
-	auto part = std::make_unique<glyph>((unsigned short)sub);
+	glyph* part = new glyph((unsigned short)sub);
 	part->depth = 1;
-	if (glyf_table->owner->get_glyph((uint16)sub, part.get()) != 0)
+	if (glyf_table->owner->get_glyph((uint16)sub, part) != 0) {
+		delete part;
 		return;
+	}
 	// A glyph with components keeps no contours of its own.
 	cur_glyph->clr_composhape();
-	if (!cur_glyph->add_compo(part.get(), 0, 0, one, 0, 0, one))
-		part.release();
+	if (cur_glyph->add_compo(part, 0, 0, one, 0, 0, one))
+		delete part;
 	place_components();
 	if (tool_mode != pointer_tool)
 		take_tool(pointer_tool);

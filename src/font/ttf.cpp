@@ -152,7 +152,7 @@ ttf::numtables() const
 unsigned char*
 ttf::entry(uint32 index) const
 {
-	return dir + header_size + entry_size * index;
+	return dir + header_size + (size_t)entry_size * index;
 }
 
 

@@ -8,6 +8,7 @@
 #include "font/ttf_head.h"
 #include "font/ttf_maxp.h"
 #include "tables/ttf_cmap.h"
+#include <cassert>
 #include <cstring>
 #include <File.h>
 
@@ -73,6 +74,8 @@ ttf::save(BFile& file)
 		ttf_table* table = find(get32(record));
 		if (table == nullptr)
 			table = *raw++;
+		// Loading made an object for each entry.
+		assert(table != nullptr);
 		if (table == head)
 			head_place = place;
 		uint32 sum = (uint32)table->sumB32();

@@ -40,7 +40,7 @@ ttf_hmtx::ttf_hmtx(ttf* font, unsigned char* buffer, unsigned long size)
 }
 
 
-ttf_hmtx::~ttf_hmtx() {}
+ttf_hmtx::~ttf_hmtx() = default;
 
 
 void

@@ -34,7 +34,7 @@ ttf_post::ttf_post(ttf* font, unsigned char* buffer, unsigned long size)
 }
 
 
-ttf_post::~ttf_post() {}
+ttf_post::~ttf_post() = default;
 
 
 int
