@@ -39,8 +39,9 @@ button_widget::set(const control_look& look)
 	apply(look, *this);
 	set_navigable(look.navigable);
 	fText = QString::fromStdString(look.label);
+	fFont = font();
 	setText(shown(fText));
-	explain_when_elided(*this, fText, width() - button_margins);
+	_Fit();
 }
 
 
@@ -48,7 +49,16 @@ void
 button_widget::resizeEvent(QResizeEvent* event)
 {
 	QPushButton::resizeEvent(event);
-	explain_when_elided(*this, fText, width() - button_margins);
+	_Fit();
+}
+
+
+void
+button_widget::_Fit()
+{
+	const int room = width() - button_margins;
+	setFont(fitted(fFont, fText, room));
+	explain_when_elided(*this, fText, room);
 }
 
 

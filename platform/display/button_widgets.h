@@ -21,7 +21,11 @@ protected:
 	void resizeEvent(QResizeEvent* event) override;
 
 private:
+	// The label in letters as narrow as it takes.
+	void _Fit();
+
 	QString fText;
+	QFont fFont;
 };
 
 // Shows a tick or none, as the kit says: a click asks the kit, and does not change it here.

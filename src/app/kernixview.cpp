@@ -95,6 +95,16 @@ kernixview::init()
 		return;
 	curttf->set_view(this);
 
+	BMessage init = init_message(*curttf);
+	if (curttf->glyf != nullptr) {
+		BMessenger(curttf->glyf->edit).SendMessage(&init);
+	} else {
+		// Without an outline view nobody else sets the canvas and ends the application's wait.
+		canvas = init.FindRect("bounds");
+		canvasok = 1;
+		canvasok.notify_all();
+	}
+
 	BMessage list(msg_tables);
 	unsigned long tags[max_listed];
 	int count = max_listed;
@@ -104,16 +114,6 @@ kernixview::init()
 			list.AddInt32("table", (int32)tags[i]);
 	}
 	BMessenger(mainwindow()->selector).SendMessage(&list);
-
-	BMessage init = init_message(*curttf);
-	if (curttf->glyf != nullptr) {
-		BMessenger(curttf->glyf->edit).SendMessage(&init);
-		return;
-	}
-	// Without an outline view nobody else sets the canvas and ends the application's wait.
-	canvas = init.FindRect("bounds");
-	canvasok = 1;
-	canvasok.notify_all();
 }
 
 

@@ -8,6 +8,7 @@
 #include "font/panel.h"
 #include <algorithm>
 #include <bitset>
+#include <Font.h>
 #include <iterator>
 
 // Byte offsets of the table's header; then the size records.
@@ -71,6 +72,7 @@ static_assert(rows_fill(header_rows, header_size));
 
 // Pixels of the listing: the first size stands where values do, the others beside it.
 static const float column_width = 70;
+static const float label_gap = 8;
 
 
 ttf_eblc::ttf_eblc(ttf* font, unsigned char* buffer, unsigned long size)
@@ -189,12 +191,24 @@ ttf_eblc::Draw(BRect area)
 	for (const panel_field& field : header_rows)
 		panel_row(this, row++, field.label, field_text(*this, field).c_str());
 	for (const panel_field& field : rows)
-		panel_row(this, row++, field.label, "");
+		draw_label(row++, field.label);
 	panel_column column = panel_main;
 	for (uint32 i = 0; i < u32(at_numsizes) && column.value_x <= Bounds().right; i++) {
 		draw_size(header_size + size_size * i, column);
 		column.value_x += column_width;
 	}
+}
+
+
+// A label that would run into the values is written smaller.
+void
+ttf_eblc::draw_label(int row, const char* label)
+{
+	const float room = panel_main.value_x - panel_main.label_x - label_gap;
+	const float size = be_plain_font->Size();
+	SetFontSize(size * std::min(1.0f, room / StringWidth(label)));
+	panel_row(this, row, label, "");
+	SetFontSize(size);
 }
 
 

@@ -40,6 +40,7 @@ private:
 	uint32 whole_sizes() const;
 	bool find_size(const bitmap& b, uint32* record) const;
 	bool find_index(uint32 record, uint16 glyph, uint32* index, uint32* place) const;
+	void draw_label(int row, const char* label);
 	void draw_size(uint32 record, const panel_column& column);
 };
 

@@ -99,10 +99,11 @@ glyfeditview::chkinput()
 
 
 void
-glyfeditview::btn_down(BPoint where, unsigned char buttons, input)
+glyfeditview::btn_down(BPoint where, unsigned char buttons, input rec)
 {
 	SetEventMask(B_POINTER_EVENTS);
-	if (!canvas.Contains(where))
+	// With that mask presses on other views come here as well, where a scrolled canvas would go on.
+	if (!canvas.Contains(where) || !Bounds().Contains(rec.where))
 		return;
 	MakeFocus();
 	button_held = 1;

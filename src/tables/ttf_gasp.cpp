@@ -85,7 +85,8 @@ ttf_gasp::set_field(int index, unsigned short maxPPEM, unsigned short behavior)
 	int position = index;
 	const bool exists = index >= 0 || find(maxPPEM, &position);
 	const bool wanted = maxPPEM != 0;
-	if (!exists && !wanted)
+	const bool full = count() == 0xFFFF;
+	if (!exists && (!wanted || full))
 		return 2;
 	if (exists && wanted) {
 		const uint32 record = header_size + record_size * (uint32)position;
@@ -104,8 +105,6 @@ ttf_gasp::rebuild(int position, bool inserted, unsigned short maxPPEM, unsigned 
 {
 	const uint32 records = (uint32)count() + (inserted ? 1 : (uint32)-1);
 	const uint32 size = header_size + record_size * records;
-	if (records > 0xFFFF)
-		return;
 	unsigned char* old = data;
 	const unsigned char* tail = old + header_size + record_size * (uint32)position;
 	unsigned char* gap = malloc32((int)size);

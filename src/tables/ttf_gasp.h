@@ -29,7 +29,8 @@ public:
 	// With an index from 0 on: gives that record a size and a behavior, in its place whatever the
 	// order, or deletes it when the size is 0. With a negative index: gives the record of that size
 	// this behavior, or inserts one before the first that is larger; size 0 deletes the record of
-	// size 0. 0 after a change, 1 for an index that is no record's, 2 when there is nothing to do.
+	// size 0. 0 after a change, 1 for an index that is no record's, 2 when there is nothing to do or
+	// no room for a record more.
 	int set_field(int index, unsigned short maxPPEM, unsigned short behavior);
 
 	void AttachedToWindow() override;

@@ -201,12 +201,13 @@ ttf_name::set_field(unsigned short platformID, unsigned short encodingID, unsign
 	}
 	std::string made;
 	if (text != nullptr) {
-		if (header_size + record_size * (records.size() + 1) > 0xFFFF)
-			return;
 		made = encoded(encoding_of(platformID, encodingID, languageID), text);
 		records.insert(records.begin() + (ptrdiff_t)position,
 			{named, {(const unsigned char*)made.data(), made.size()}});
 	}
+	// This also bounds what texts that lie upon each other come to when they are laid out apart.
+	if (header_size + record_size * records.size() > 0xFFFF)
+		return;
 	rebuild(records);
 }
 

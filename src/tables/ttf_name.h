@@ -39,8 +39,8 @@ public:
 
 	// Replaces the record with that key, or inserts one behind the last with a smaller key; null
 	// deletes it. The text is UTF-8 where it is to be converted. Other records keep their keys and
-	// bytes; several of one key become one. Texts beyond 65535 bytes are cut off, and nothing is
-	// inserted where the places of the texts could no longer be told in 16 bits.
+	// bytes; several of one key become one. Texts beyond 65535 bytes are cut off, and nothing changes
+	// where the table would have more records than 16 bits can tell the end of, 5460.
 	void set_field(unsigned short platformID, unsigned short encodingID, unsigned short languageID,
 		unsigned short nameID, const char* text);
 
