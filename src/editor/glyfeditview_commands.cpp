@@ -12,6 +12,7 @@
 #include "outline/ttf_glyf.h"
 #include "tables/ttf_cmap.h"
 #include <AppDefs.h>
+#include <cmath>
 #include <Message.h>
 
 // 1.0 in 2.14.
@@ -118,7 +119,8 @@ glyfeditview::choose(const BMessage* message)
 	if (message->FindInt8("psize", &size) == B_OK)
 		psize = (uint8)size;
 	float chosen;
-	if (message->FindFloat("scale", &chosen) == B_OK)
+	// What is no scale is left alone.
+	if (message->FindFloat("scale", &chosen) == B_OK && std::isfinite(chosen) && chosen >= 0)
 		chgscale(chosen);
 }
 
