@@ -1,6 +1,7 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 
+#include "freehand.h"
 #include "glyphs.h"
 #include "load_save.h"
 #include "memory.h"
@@ -64,6 +65,17 @@ main(int argc, char** argv)
 				->Repetitions(7)
 				->ReportAggregatesOnly();
 		}
+	}
+	const struct {
+		int points;
+		int width;
+	} strokes[] = {{100, 10}, {1000, 10}, {10000, 10}, {10000, 100}};
+	for (const auto& each : strokes) {
+		std::string name =
+			"trace/" + std::to_string(each.points) + "/" + std::to_string(each.width);
+		benchmark::RegisterBenchmark(name.c_str(), trace_stroke, each.points, each.width)
+			->UseManualTime()
+			->Unit(benchmark::kMillisecond);
 	}
 	benchmark::RunSpecifiedBenchmarks();
 	benchmark::Shutdown();

@@ -126,6 +126,9 @@ public:
 private:
 	class painter;
 
+	// Fills a few pixels with one colour, in the view's coordinates and unscaled; an ellipse when round.
+	// False when that is not all there is to do: nothing has been painted then.
+	bool _FillSmall(const drawing_context& context, BRect rect, const pattern& p, bool round);
 	// What publish() has to bring: a box in the view's pixels, or one in device pixels.
 	void _Touched(const drawing_context& context, BRect rect);
 	void _TouchedDevice(const QRectF& rect, float reach);

@@ -5,6 +5,7 @@
 #include "display/convert.h"
 #include "display/display.h"
 #include "display/fonts.h"
+#include "display/ink.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,14 +31,6 @@ textured(const pattern& p, QRgb one, QRgb zero, int pixel)
 		}
 	}
 	return QBrush(tile);
-}
-
-
-bool
-uniform(const pattern& p, uint8 bits)
-{
-	return std::all_of(
-		std::begin(p.data), std::end(p.data), [=](uint8 row) { return row == bits; });
 }
 
 
@@ -179,15 +172,7 @@ public:
 
 	QBrush fill(const pattern& p) const { return brush_of(fState, p, fRatio); }
 
-	// Canvas pixels to device pixels, whole ones that are touched.
-	QRect pixels(const QRect& rect) const
-	{
-		int left = (int)std::floor(rect.left() * fRatio);
-		int top = (int)std::floor(rect.top() * fRatio);
-		int right = (int)std::ceil((rect.right() + 1) * fRatio);
-		int bottom = (int)std::ceil((rect.bottom() + 1) * fRatio);
-		return QRect(left, top, right - left, bottom - top);
-	}
+	QRect pixels(const QRect& rect) const { return device_pixels(rect, fRatio); }
 
 	QRect view_pixels(BRect rect) const
 	{
@@ -261,9 +246,11 @@ canvas::fill_rect(const drawing_context& context, BRect rect, const pattern& p)
 	if (!finite(rect) || !rect.IsValid())
 		return;
 	rect = truncated(scaled(context, rect));
+	_Touched(context, rect);
+	if (_FillSmall(context, rect, p, false))
+		return;
 	painter paint(*this, context);
 	paint.fillRect(paint.view_pixels(rect), paint.fill(p));
-	_Touched(context, rect);
 }
 
 
@@ -323,12 +310,14 @@ canvas::fill_ellipse(const drawing_context& context, BRect rect, const pattern& 
 	if (!finite(rect))
 		return;
 	rect = truncated(scaled(context, in_order(rect)));
+	_Touched(context, rect);
+	if (_FillSmall(context, rect, p, true))
+		return;
 	painter paint(*this, context);
 	// As a path: Qt's own ellipses of whole numbers leave the topmost row out.
 	QPainterPath path;
 	path.addEllipse(paint.view_pixels(rect));
 	paint.fillPath(path, paint.fill(p));
-	_Touched(context, rect);
 }
 
 

@@ -7,6 +7,7 @@
 #include "program/outline_stage.h"
 #include "support/opened.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 #include <Messenger.h>
 
@@ -169,6 +170,21 @@ TEST(outline_commands, all_fields_of_a_choice_are_optional)
 		wrong.AddInt32("gno", 1);
 		stage.tell(wrong);
 		EXPECT_EQ(stage.state(), "gno 0005 chr ffff mode 0 state 0");
+	});
+}
+
+
+TEST(outline_commands, a_scale_that_is_no_positive_number_is_left_alone)
+{
+	at_outlines([](outline_stage& stage) {
+		stage.choose("gno", 5);
+		stage.heard();
+		for (float scale : {NAN, INFINITY, -0.5f}) {
+			BMessage choice('Vchg');
+			choice.AddFloat("scale", scale);
+			stage.tell(choice);
+		}
+		EXPECT_EQ(stage.heard(), texts());
 	});
 }
 
