@@ -120,7 +120,7 @@ private:
 
 
 std::shared_ptr<alert_dialog>
-alert_dialogs::show(const alert_text& text, std::function<void(int)> answer)
+alert_dialogs::show(const alert_text& text, const std::function<void(int)>& answer)
 {
 	auto made = std::make_shared<alert_dialog>();
 	display::post([=] {
@@ -135,8 +135,5 @@ alert_dialogs::show(const alert_text& text, std::function<void(int)> answer)
 void
 alert_dialogs::dismiss(const std::shared_ptr<alert_dialog>& dialog)
 {
-	display::post([=] {
-		if (dialog->widget)
-			delete dialog->widget;
-	});
+	display::post([=] { delete dialog->widget; });
 }

@@ -33,7 +33,7 @@ struct alert_dialog {
 // The dialog blocks input to the program's other windows.
 namespace alert_dialogs {
 
-std::shared_ptr<alert_dialog> show(const alert_text& text, std::function<void(int)> answer);
+std::shared_ptr<alert_dialog> show(const alert_text& text, const std::function<void(int)>& answer);
 // Takes it away without an answer, if it is still there.
 void dismiss(const std::shared_ptr<alert_dialog>& dialog);
 

@@ -143,8 +143,8 @@ canvas::publish(front_image& front)
 	int right = std::min(fImage->width(), (int)std::ceil((touched.right + 1) * fRatio));
 	int bottom = std::min(fImage->height(), (int)std::ceil((touched.bottom + 1) * fRatio));
 	for (int y = top; y < bottom; y++) {
-		memcpy(front.image->scanLine(y) + 4 * left, fImage->constScanLine(y) + 4 * left,
-			4 * (size_t)(right - left));
+		memcpy(front.image->scanLine(y) + 4 * (ptrdiff_t)left,
+			fImage->constScanLine(y) + 4 * (ptrdiff_t)left, 4 * (size_t)(right - left));
 	}
 	return touched;
 }
