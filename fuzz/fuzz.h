@@ -18,7 +18,8 @@ int load_octets(ttf& font, const octets& contents);
 octets save_octets(ttf& font);
 
 // Looks at everything a user could: glyphs, characters, names, size ranges, bitmaps, statistics, and
-// every panel, drawn into a bitmap. Of what a font may have thousands of, the first few hundred.
-void walk(ttf& font);
+// every panel, drawn into a bitmap. Of what a font may have thousands of, so many: a fuzzer has to
+// get on.
+void walk(ttf& font, int most = 300);
 
 #endif

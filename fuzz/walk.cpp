@@ -20,9 +20,6 @@
 #include <cstdlib>
 #include <File.h>
 
-static const int most = 300;
-
-
 // One file for all inputs, and nothing said about them.
 static const temp_file&
 the_file()
@@ -56,9 +53,9 @@ save_octets(ttf& font)
 
 
 static void
-walk_glyphs(ttf& font)
+walk_glyphs(ttf& font, int most)
 {
-	const int count = (int)std::min<uint32>(font.numglyphs(), most);
+	const int count = (int)std::min<uint32>(font.numglyphs(), (uint32)most);
 	for (int i = -1; i <= count; i++) {
 		glyph outline((unsigned short)i);
 		font.get_glyph(i, &outline);
@@ -81,7 +78,7 @@ walk_glyphs(ttf& font)
 
 
 static void
-walk_records(ttf& font)
+walk_records(ttf& font, int most)
 {
 	unsigned short ids[4];
 	char text[256];
@@ -95,15 +92,15 @@ walk_records(ttf& font)
 
 
 static void
-walk_bitmaps(ttf& font)
+walk_bitmaps(ttf& font, int most)
 {
 	if (font.eblc == nullptr)
 		return;
 	std::vector<uint16> strikes = font.eblc->strikes();
 	strikes.resize(std::min<size_t>(strikes.size(), 16));
 	for (uint16 strike : strikes) {
-		for (unsigned short i = 0; i < 64; i++) {
-			bitmap image(i, (uint8)(strike >> 8), (uint8)strike, 1);
+		for (int i = 0; i < most; i++) {
+			bitmap image((unsigned short)i, (uint8)(strike >> 8), (uint8)strike, 1);
 			if (font.get_bitmap(&image) == 0)
 				font.set_bitmap(&image);
 		}
@@ -136,12 +133,12 @@ walk_panels(ttf& font)
 
 
 void
-walk(ttf& font)
+walk(ttf& font, int most)
 {
 	curttf = &font;
-	walk_glyphs(font);
-	walk_records(font);
-	walk_bitmaps(font);
+	walk_glyphs(font, most);
+	walk_records(font, most);
+	walk_bitmaps(font, std::min<int>(most, (int)font.numglyphs()));
 	walk_panels(font);
 	curttf = nullptr;
 }
