@@ -30,7 +30,7 @@ public:
 private:
 	friend class BView;
 
-	enum verb : uint8 { move_to, line_to, bezier_to, close };
+	enum verb : uint8 { move_to, line_to, bezier_to, close_path };
 
 	status_t _Add(verb how, const BPoint* points, int32 count);
 

@@ -60,7 +60,7 @@ BShape::BezierTo(BPoint control[3])
 status_t
 BShape::Close()
 {
-	return _Add(close, nullptr, 0);
+	return _Add(close_path, nullptr, 0);
 }
 
 

@@ -320,7 +320,7 @@ BView::_Trace(const BShape& shape, outline& path) const
 				path.bezier_to(point[0], point[1], point[2]);
 				point += 3;
 				break;
-			case BShape::close:
+			case BShape::close_path:
 				path.close();
 				break;
 		}
