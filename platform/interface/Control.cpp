@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/control_look.h"
 #include "display/field_peers.h"
+#include "interface/peer_access.h"
 #include "interface/view_state.h"
 
 #include <Control.h>
@@ -103,10 +104,7 @@ BControl::SetFont(const BFont* font, uint32 mask)
 void
 BControl::AttachedToWindow()
 {
-	if (const BView* parent = fState->parent) {
-		SetViewColor(parent->ViewColor());
-		SetLowColor(parent->LowColor());
-	}
+	view_access::take_parent_colors(*this);
 	if (Window() && !Messenger().IsValid())
 		SetTarget(Window());
 	// Made with the window's colours; these are the parent's.
@@ -117,14 +115,8 @@ BControl::AttachedToWindow()
 void
 BControl::MessageReceived(BMessage* message)
 {
-	switch (message->what) {
-		case focus_gained:
-		case focus_lost:
-			Window()->_FocusReported(*message, this);
-			break;
-		default:
-			BView::MessageReceived(message);
-	}
+	if (!window_access::follow_focus(*this, *message))
+		BView::MessageReceived(message);
 }
 
 
@@ -145,13 +137,9 @@ BControl::_TakesKeyboard() const
 control_look
 BControl::_Look() const
 {
-	control_look look;
-	look.label = fLabel;
+	control_look look = view_access::look_of(*this, fLabel);
 	look.value = fValue;
 	look.enabled = fEnabled;
-	look.navigable = Flags() & B_NAVIGABLE;
-	look.background = ViewColor();
-	GetFont(&look.font);
 	return look;
 }
 

@@ -9,7 +9,7 @@
 class BMessage;
 class BView;
 
-// What views that the display paints, and that are no BControl, need of the kit's own parts.
+// What views that the display paints need of the kit's own parts.
 struct view_access {
 	static kits::peer_ref& widget_of(BView& view);
 	// For a view that is attached.

@@ -22,10 +22,12 @@ bitmap::bitmap(unsigned short index, unsigned char across, unsigned char down, u
 {
 }
 
+
 bitmap::~bitmap()
 {
 	delete[] pixels;
 }
+
 
 void
 bitmap::setvrect(const BRect& r)
@@ -33,17 +35,20 @@ bitmap::setvrect(const BRect& r)
 	vrect = r;
 }
 
+
 float
 bitmap::cell_width() const
 {
 	return (vrect.right - vrect.left + 1) / ppemX;
 }
 
+
 float
 bitmap::cell_height() const
 {
 	return (vrect.bottom - vrect.top + 1) / ppemY;
 }
+
 
 // The left upper corner of the image.
 BPoint
@@ -52,6 +57,7 @@ bitmap::origin() const
 	return BPoint(vrect.left + cell_width() * horiBearingX,
 		vrect.top + cell_height() * (float)(ppemY - horiBearingY));
 }
+
 
 int
 bitmap::create(const unsigned char&, const BPoint& p)
@@ -73,6 +79,7 @@ bitmap::create(const unsigned char&, const BPoint& p)
 	return 0;
 }
 
+
 void
 bitmap::draw(BView* v) const
 {
@@ -85,6 +92,7 @@ bitmap::draw(BView* v) const
 	if (has_cells())
 		draw_cells(v);
 }
+
 
 void
 bitmap::draw_cells(BView* v) const
@@ -103,6 +111,7 @@ bitmap::draw_cells(BView* v) const
 	v->SetHighColor(100, 100, 100);
 	v->StrokeRect(BRect(first.x, first.y, first.x + cw * width - 1, first.y + ch * height - 1));
 }
+
 
 bool
 bitmap::take_metrics(cursor& from)

@@ -12,13 +12,9 @@
 #include "outline/em_guide.h"
 #include "outline/glyph.h"
 #include "outline/ttf_hmtx.h"
-#include "tables/ttf_cmap.h"
 #include <Font.h>
 #include <Message.h>
 #include <Messenger.h>
-
-// View pixels.
-static const BRect square(100, 100, 399, 399);
 
 static const uint32 outline_color = 0xFF0000;
 // Of the outline; those of the bitmap are brighter.
@@ -34,7 +30,9 @@ ebdteditview::ebdteditview(BRect frame, ttf_ebdt* table)
 {
 }
 
-ebdteditview::~ebdteditview() {}
+
+ebdteditview::~ebdteditview() = default;
+
 
 void
 ebdteditview::AttachedToWindow()
@@ -47,6 +45,7 @@ ebdteditview::AttachedToWindow()
 	MakeFocus();
 }
 
+
 void
 ebdteditview::redraw(char flags)
 {
@@ -54,17 +53,19 @@ ebdteditview::redraw(char flags)
 		Draw(Bounds());
 }
 
+
 void
 ebdteditview::Draw(BRect area)
 {
 	panel_clear(this, area);
 	SetHighColor(50, 50, 50);
-	StrokeRect(square);
+	StrokeRect(em_square);
 	if (cur_bitmap != nullptr)
 		cur_bitmap->draw(this);
 	draw_outline();
 	draw_bitmap_metrics();
 }
+
 
 void
 ebdteditview::draw_outline()
@@ -73,7 +74,7 @@ ebdteditview::draw_outline()
 		return;
 	ttf& font = *ebdt_table->owner;
 	if (guide_glyph == nullptr)
-		guide_glyph = glyph_in_em(font, (uint16)gno, square);
+		guide_glyph = glyph_in_em(font, (uint16)gno, em_square);
 	// Contours are drawn from where the pen stands.
 	MovePenTo(0, 0);
 	guide_glyph->draw(this, outline_color);
@@ -82,18 +83,20 @@ ebdteditview::draw_outline()
 	if (font.hmtx == nullptr || font.hmtx->get_mtx((uint16)gno, &advance, &bearing) != 0)
 		return;
 	uint16 em = font.unitsperem();
-	draw_metric(this, square, bearing, em, outline_bearing_color, B_MIXED_COLORS);
-	draw_metric(this, square, advance, em, outline_advance_color, B_MIXED_COLORS);
+	draw_metric(this, em_square, bearing, em, outline_bearing_color, B_MIXED_COLORS);
+	draw_metric(this, em_square, advance, em, outline_advance_color, B_MIXED_COLORS);
 }
+
 
 void
 ebdteditview::draw_bitmap_metrics()
 {
 	if (cur_bitmap == nullptr || cur_bitmap->pixels == nullptr || !cur_bitmap->has_cells())
 		return;
-	draw_metric(this, square, cur_bitmap->horiBearingX, cur_bitmap->ppemX, bearing_color);
-	draw_metric(this, square, cur_bitmap->horiAdvance, cur_bitmap->ppemX, advance_color);
+	draw_metric(this, em_square, cur_bitmap->horiBearingX, cur_bitmap->ppemX, bearing_color);
+	draw_metric(this, em_square, cur_bitmap->horiAdvance, cur_bitmap->ppemX, advance_color);
 }
+
 
 void
 ebdteditview::MouseDown(BPoint where)
@@ -101,6 +104,7 @@ ebdteditview::MouseDown(BPoint where)
 	if (cur_bitmap != nullptr && cur_bitmap->create(1, where) == 0)
 		redraw(draw_edited);
 }
+
 
 void
 ebdteditview::MessageReceived(BMessage* message)
@@ -117,32 +121,24 @@ ebdteditview::MessageReceived(BMessage* message)
 	}
 }
 
+
 // What the palette chose: a glyph by number or by character, the size.
 void
 ebdteditview::choose(const BMessage* message)
 {
-	const ttf& font = *ebdt_table->owner;
+	bool by_glyph = ebdt_table->owner->choose_glyph(message, &gno, &chr);
 	int16 number;
-	bool by_number = message->FindInt16("gno", &number) == B_OK;
-	if (by_number) {
-		gno = (uint16)number < font.numglyphs() ? number : 0;
-		chr = (int16)font.cmap->get_chr((uint16)gno);
-	}
-	bool by_character = message->FindInt16("chr", &number) == B_OK;
-	if (by_character) {
-		chr = number;
-		gno = (int16)font.cmap->get_gno((uint16)chr);
-	}
 	bool by_size = message->FindInt16("pt", &number) == B_OK;
 	if (by_size)
 		pt = (uint16)number;
-	if (!by_number && !by_character && !by_size)
+	if (!by_glyph && !by_size)
 		return;
 	load_bitmap();
 	send2toolv(tell_all);
 	guide_glyph = nullptr;
 	redraw(draw_full);
 }
+
 
 // Reads the bitmap afresh from the font; what was edited and not committed is gone. Where the font
 // has none it is undefined.
@@ -152,8 +148,9 @@ ebdteditview::load_bitmap()
 	cur_bitmap = std::make_unique<bitmap>(
 		(unsigned short)gno, (unsigned char)(pt / 256), (unsigned char)(pt % 256), 1);
 	ebdt_table->owner->get_bitmap(cur_bitmap.get());
-	cur_bitmap->setvrect(square);
+	cur_bitmap->setvrect(em_square);
 }
+
 
 void
 ebdteditview::commit()
@@ -165,6 +162,7 @@ ebdteditview::commit()
 	send2toolv(tell_all);
 	redraw(draw_full);
 }
+
 
 void
 ebdteditview::send2toolv(unsigned char mask)

@@ -36,7 +36,9 @@ ebdttoolview::ebdttoolview(BRect frame, ttf_ebdt* table)
 {
 }
 
-ebdttoolview::~ebdttoolview() {}
+
+ebdttoolview::~ebdttoolview() = default;
+
 
 void
 ebdttoolview::AttachedToWindow()
@@ -54,6 +56,7 @@ ebdttoolview::AttachedToWindow()
 	}
 	redraw();
 }
+
 
 static BPopUpMenu*
 make_menu(const ttf_eblc* places)
@@ -73,6 +76,7 @@ make_menu(const ttf_eblc* places)
 	return menu;
 }
 
+
 void
 ebdttoolview::init()
 {
@@ -88,6 +92,7 @@ ebdttoolview::init()
 	AddChild(strike_field);
 }
 
+
 void
 ebdttoolview::redraw()
 {
@@ -102,6 +107,7 @@ ebdttoolview::redraw()
 	Draw(Bounds());
 }
 
+
 void
 ebdttoolview::Draw(BRect)
 {
@@ -110,11 +116,13 @@ ebdttoolview::Draw(BRect)
 		DrawString("point", BPoint(5, 80));
 }
 
+
 void
 ebdttoolview::MouseDown(BPoint)
 {
-	choose("gno", (int16)(gno + 1));
+	palette_choose(ebdt_table->edit, "gno", (int16)(gno + 1));
 }
+
 
 void
 ebdttoolview::MessageReceived(BMessage* message)
@@ -136,12 +144,13 @@ ebdttoolview::MessageReceived(BMessage* message)
 			break;
 		case msg_strike:
 			if (message->FindInt16("pt", &strike) == B_OK)
-				choose("pt", strike);
+				palette_choose(ebdt_table->edit, "pt", strike);
 			break;
 		default:
 			BView::MessageReceived(message);
 	}
 }
+
 
 // What the edit view tells; what a message does not hold has not changed.
 void
@@ -157,22 +166,16 @@ ebdttoolview::learn(const BMessage* message)
 	redraw();
 }
 
+
 void
 ebdttoolview::entered(const void* source)
 {
 	if (source == chr_code)
-		choose("chr", palette_number(chr_code, 0));
+		palette_choose(ebdt_table->edit, "chr", palette_number(chr_code, 0));
 	else if (source == gno_entry)
-		choose("gno", palette_number(gno_entry, 0));
+		palette_choose(ebdt_table->edit, "gno", palette_number(gno_entry, 0));
 }
 
-void
-ebdttoolview::choose(const char* field, int16 value)
-{
-	BMessage chosen(msg_editor);
-	chosen.AddInt16(field, value);
-	send(chosen);
-}
 
 void
 ebdttoolview::send(BMessage& message)

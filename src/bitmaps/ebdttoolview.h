@@ -57,7 +57,6 @@ public:
 private:
 	void learn(const BMessage* message);
 	void entered(const void* source);
-	void choose(const char* field, int16 value);
 	void send(BMessage& message);
 };
 

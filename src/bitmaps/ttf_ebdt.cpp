@@ -41,6 +41,7 @@ find_layout(unsigned short format, image_layout* layout)
 	}
 }
 
+
 // Bits from one row to the next.
 static uint32
 stride_of(const bitmap& b, const image_layout& layout)
@@ -48,11 +49,13 @@ stride_of(const bitmap& b, const image_layout& layout)
 	return layout.aligned ? (b.width + 7u) / 8 * 8 : b.width;
 }
 
+
 static uint32
 size_of(const bitmap& b, const image_layout& layout)
 {
 	return (stride_of(b, layout) * b.height + 7) / 8;
 }
+
 
 // The first pixel of a byte is its highest bit.
 static uint8
@@ -60,6 +63,7 @@ mask_of(uint32 bit)
 {
 	return (uint8)(0x80 >> bit % 8);
 }
+
 
 ttf_ebdt::ttf_ebdt(ttf* font, unsigned char* buffer, unsigned long size)
 	: ttf_table(font, 'EBDT', buffer, size),
@@ -69,6 +73,7 @@ ttf_ebdt::ttf_ebdt(ttf* font, unsigned char* buffer, unsigned long size)
 	AddChild(tools);
 	AddChild(edit);
 }
+
 
 int
 ttf_ebdt::decode(unsigned long offset, unsigned short imageFormat, bitmap* b) const
@@ -93,6 +98,7 @@ ttf_ebdt::decode(unsigned long offset, unsigned short imageFormat, bitmap* b) co
 	}
 	return 0;
 }
+
 
 int
 ttf_ebdt::encode(const bitmap* b, unsigned long offset, unsigned short imageFormat)

@@ -80,6 +80,7 @@ ttf_eblc::ttf_eblc(ttf* font, unsigned char* buffer, unsigned long size)
 {
 }
 
+
 // How many size records the table really has.
 uint32
 ttf_eblc::whole_sizes() const
@@ -87,6 +88,7 @@ ttf_eblc::whole_sizes() const
 	return length < header_size ? 0
 								: std::min(u32(at_numsizes), (length - header_size) / size_size);
 }
+
 
 bool
 ttf_eblc::find_size(const bitmap& b, uint32* record) const
@@ -98,6 +100,7 @@ ttf_eblc::find_size(const bitmap& b, uint32* record) const
 	}
 	return false;
 }
+
 
 // The index sub-table of a glyph, and the glyph's place in it, from 0.
 bool
@@ -117,6 +120,7 @@ ttf_eblc::find_index(uint32 record, uint16 glyph, uint32* index, uint32* place) 
 	}
 	return false;
 }
+
 
 int
 ttf_eblc::get_offset(bitmap* b, unsigned long* offset, unsigned short* imageFormat) const
@@ -158,6 +162,7 @@ ttf_eblc::get_offset(bitmap* b, unsigned long* offset, unsigned short* imageForm
 	return found == 0 ? 1 : 0;
 }
 
+
 std::vector<uint16>
 ttf_eblc::strikes() const
 {
@@ -174,6 +179,7 @@ ttf_eblc::strikes() const
 	return found;
 }
 
+
 int
 ttf_eblc::get_sizes(int* count, unsigned char* sizes) const
 {
@@ -182,6 +188,7 @@ ttf_eblc::get_sizes(int* count, unsigned char* sizes) const
 		::put16(sizes + 2 * (*count)++, size);
 	return 0;
 }
+
 
 void
 ttf_eblc::Draw(BRect area)

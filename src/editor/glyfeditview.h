@@ -139,6 +139,7 @@ private:
 	void clear();
 	void add_component(const BMessage* message);
 	void del_component(const BMessage* message);
+	void show_components();
 	void place_components();
 	void copy();
 	void paste();

@@ -10,7 +10,6 @@
 #include "font/ttf.h"
 #include "outline/glyph.h"
 #include "outline/ttf_glyf.h"
-#include "tables/ttf_cmap.h"
 #include <AppDefs.h>
 #include <cmath>
 #include <Message.h>
@@ -101,19 +100,7 @@ glyfeditview::choose(const BMessage* message)
 {
 	if (curttf == nullptr)
 		return;
-	ttf* font = glyf_table->owner;
-	int16 number;
-	bool by_number = message->FindInt16("gno", &number) == B_OK;
-	if (by_number) {
-		gno = (uint16)number < font->numglyphs() ? number : 0;
-		chr = (int16)font->cmap->get_chr((uint16)gno);
-	}
-	bool by_character = message->FindInt16("chr", &number) == B_OK;
-	if (by_character) {
-		chr = number;
-		gno = (int16)font->cmap->get_gno((uint16)chr);
-	}
-	if (by_number || by_character)
+	if (glyf_table->owner->choose_glyph(message, &gno, &chr))
 		show_glyph();
 	int8 size;
 	if (message->FindInt8("psize", &size) == B_OK)
@@ -201,11 +188,9 @@ glyfeditview::add_component(const BMessage* message)
 		delete part;
 		return;
 	}
-	// A glyph with components keeps no contours of its own.
-	cur_glyph->clr_composhape();
 	if (cur_glyph->add_compo(part, 0, 0, one, 0, 0, one))
 		delete part;
-	place_components();
+	show_components();
 	if (tool_mode != pointer_tool)
 		take_tool(pointer_tool);
 }
@@ -217,20 +202,29 @@ glyfeditview::del_component(const BMessage* message)
 	int8 number;
 	if (gno == -1 || message->FindInt8("no", &number) != B_OK)
 		return;
-	cur_glyph->clr_composhape();
 	cur_glyph->del_compo((unsigned char)number);
-	place_components();
+	show_components();
 }
 
 
-// The outline of the components and their handles, made anew.
+// A component has come or gone.
+void
+glyfeditview::show_components()
+{
+	place_components();
+	send2toolv(tell_glyph);
+	redraw(draw_full);
+}
+
+
+// The outline of the components and their handles, made anew. A glyph with components keeps no
+// contours of its own.
 void
 glyfeditview::place_components()
 {
+	cur_glyph->clr_composhape();
 	cur_glyph->create_composhape();
 	cur_glyph->trans(glyf_table->owner->bounds(), canvas);
-	send2toolv(tell_glyph);
-	redraw(draw_full);
 }
 
 

@@ -336,12 +336,9 @@ glyfeditview::end_band(BPoint where)
 void
 glyfeditview::end_drag()
 {
-	if (is_composite()) {
-		// A handle that was moved has moved its component.
-		cur_glyph->clr_composhape();
-		cur_glyph->create_composhape();
-		cur_glyph->trans(glyf_table->owner->bounds(), canvas);
-	}
+	// A handle that was moved has moved its component.
+	if (is_composite())
+		place_components();
 	edit_state = selecting;
 	redraw(draw_full);
 }

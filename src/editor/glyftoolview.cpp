@@ -247,11 +247,11 @@ glyftoolview::entered(const void* source)
 	if (source == chr_entry) {
 		uint16 code;
 		if (first_character(chr_entry->Text(), &code))
-			choose("chr", (int16)code);
+			palette_choose(glyf_table->edit, "chr", (int16)code);
 	} else if (source == chr_code) {
-		choose("chr", palette_number(chr_code, 0));
+		palette_choose(glyf_table->edit, "chr", palette_number(chr_code, 0));
 	} else if (source == gno_entry) {
-		choose("gno", palette_number(gno_entry, 0));
+		palette_choose(glyf_table->edit, "gno", palette_number(gno_entry, 0));
 	}
 }
 
@@ -317,7 +317,7 @@ glyftoolview::MouseDown(BPoint where)
 	else if (where.y > scale_row)
 		step_scale(where.x);
 	else if (!choose_tool(where))
-		choose("gno", (int16)(gno + 1));
+		palette_choose(glyf_table->edit, "gno", (int16)(gno + 1));
 }
 
 
@@ -328,7 +328,7 @@ glyftoolview::step_glyph(float x)
 		gno = (int16)(gno - 1);
 	else if (x > 40)
 		gno = (int16)(gno + 1);
-	choose("gno", gno);
+	palette_choose(glyf_table->edit, "gno", gno);
 }
 
 
@@ -374,15 +374,6 @@ glyftoolview::choose_tool(BPoint where)
 		}
 	}
 	return false;
-}
-
-
-void
-glyftoolview::choose(const char* field, int16 value)
-{
-	BMessage chosen(msg_editor);
-	chosen.AddInt16(field, value);
-	send(chosen);
 }
 
 

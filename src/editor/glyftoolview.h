@@ -79,7 +79,6 @@ private:
 	void step_size(float x);
 	void step_scale(float x);
 	bool choose_tool(BPoint where);
-	void choose(const char* field, int16 value);
 	void send(BMessage& message);
 };
 

@@ -9,6 +9,7 @@
 #include <Bitmap.h>
 #include <Button.h>
 #include <Message.h>
+#include <Messenger.h>
 #include <TextControl.h>
 #include <View.h>
 
@@ -62,6 +63,15 @@ palette_number(const BTextControl* field, int16 otherwise)
 	if (!read_hex(field, &value))
 		return otherwise;
 	return (int16)std::min<uint32>(value, 0xFFFF);
+}
+
+
+void
+palette_choose(BView* editor, const char* field, int16 value)
+{
+	BMessage chosen(msg_editor);
+	chosen.AddInt16(field, value);
+	BMessenger(editor).SendMessage(&chosen);
 }
 
 

@@ -39,6 +39,9 @@ BTextControl* palette_edit(BView* palette, BRect place, const char* name, const 
 // character's, like FFFF. What is no number at all counts as the other value.
 int16 palette_number(const BTextControl* field, int16 otherwise);
 
+// Posts a palette's choice to its edit view: 'Vchg' with one number.
+void palette_choose(BView* editor, const char* field, int16 value);
+
 // Adds a button as panel_button() does.
 BButton* palette_button(BView* palette, BRect place, const char* name);
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 class BFile;
+class BMessage;
 class bitmap;
 class glyph;
 class BView;
@@ -83,6 +84,11 @@ public:
 	// The place of a glyph's record in glyf, bytes. False, with nothing stored, for an index that is
 	// no glyph's or has no place in loca. What is found may lie outside of glyf.
 	bool find_glyph(int index, uint32* offset, uint32* size) const;
+
+	// The glyph that a palette chose: "gno" (int16), its number, 0 for one that is no glyph's, or
+	// "chr" (int16), a character; the latter prevails. Gives both, -1 for no character. False, with
+	// nothing stored, when neither is there.
+	bool choose_glyph(const BMessage* choice, int16* gno, int16* chr) const;
 
 	// Appends a glyph's outline to g, in font units; an empty glyph leaves it untouched. 0, or -1
 	// when there is no such glyph.

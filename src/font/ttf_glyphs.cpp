@@ -11,6 +11,8 @@
 #include "font/ttf_loca.h"
 #include "font/ttf_maxp.h"
 #include "outline/ttf_glyf.h"
+#include "tables/ttf_cmap.h"
+#include <Message.h>
 
 
 uint32
@@ -39,6 +41,24 @@ ttf::find_glyph(int index, uint32* offset, uint32* size) const
 	*offset = (uint32)place;
 	*size = (uint32)length;
 	return true;
+}
+
+
+bool
+ttf::choose_glyph(const BMessage* choice, int16* gno, int16* chr) const
+{
+	int16 number;
+	const bool by_number = choice->FindInt16("gno", &number) == B_OK;
+	if (by_number) {
+		*gno = (uint16)number < numglyphs() ? number : 0;
+		*chr = (int16)cmap->get_chr((uint16)*gno);
+	}
+	const bool by_character = choice->FindInt16("chr", &number) == B_OK;
+	if (by_character) {
+		*chr = number;
+		*gno = (int16)cmap->get_gno((uint16)*chr);
+	}
+	return by_number || by_character;
 }
 
 

@@ -16,6 +16,9 @@ class ttf;
 // The em square as panels show it: a glyph's outline drawn into a rectangle of the view, and the
 // vertical lines of its metrics. Window thread.
 
+// Where it stands in the panels that show it: 300 x 300 view pixels.
+constexpr BRect em_square = BRect(100, 100, 399, 399);
+
 constexpr rgb_color bearing_color = {0, 255, 0, 255};
 constexpr rgb_color advance_color = {0, 255, 255, 255};
 

@@ -18,9 +18,6 @@
 enum { record_size = 4, at_lsb = 2 };
 static const uint16 none = 0xFFFF;
 
-// View pixels.
-static const BRect square(100, 100, 399, 399);
-
 
 ttf_hmtx::ttf_hmtx(ttf* font, unsigned char* buffer, unsigned long size)
 	: ttf_table(font, 'hmtx', buffer, size),
@@ -133,16 +130,16 @@ ttf_hmtx::Draw(BRect area)
 {
 	panel_clear(this, area);
 	SetHighColor(50, 50, 50);
-	StrokeRect(square);
+	StrokeRect(em_square);
 	if (preview == nullptr && shown != none)
-		preview = glyph_in_em(*owner, shown, square);
+		preview = glyph_in_em(*owner, shown, em_square);
 	SetHighColor(255, 255, 255);
 	if (preview == nullptr || left == nullptr)
 		return;
 	preview->draw(this, 0);
 	uint16 em = owner->unitsperem();
-	draw_metric(this, square, left->Value(), em, bearing_color);
-	draw_metric(this, square, right->Value(), em, advance_color);
+	draw_metric(this, em_square, left->Value(), em, bearing_color);
+	draw_metric(this, em_square, right->Value(), em, advance_color);
 	SetHighColor(255, 255, 255);
 }
 
