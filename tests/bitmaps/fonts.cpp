@@ -3,7 +3,7 @@
 
 // Every bitmap of every size of real fonts, with FreeType as the judge.
 #include "bitmaps/bitmap_fixture.h"
-#include "support/installed_fonts.h"
+#include "support/real_font.h"
 #include "support/temp_files.h"
 
 #include <gtest/gtest.h>
@@ -29,13 +29,9 @@ class bitmap_font : public testing::TestWithParam<chosen_font> {
 protected:
 	void SetUp() override
 	{
-		std::string path = installed_font(GetParam().leaf);
-		if (path.empty() && fonts_are_required())
-			FAIL() << GetParam().leaf << " is not installed";
-		if (path.empty())
-			GTEST_SKIP() << GetParam().leaf << " is not installed";
-		file = read_file(path);
-		font = opened(file);
+		read_real_font(GetParam().leaf, file);
+		if (!file.empty())
+			font = opened(file);
 	}
 
 	octets file;

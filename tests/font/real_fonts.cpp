@@ -8,8 +8,8 @@
 #include "font/ttf.h"
 #include "support/expected_save.h"
 #include "support/freetype_outlines.h"
-#include "support/installed_fonts.h"
 #include "support/opened.h"
+#include "support/real_font.h"
 #include "support/sfnt.h"
 #include "support/temp_files.h"
 #include "support/time_zone.h"
@@ -18,15 +18,7 @@
 // a quarter of a mebibyte and vertical metrics (IPA), embedded bitmaps and a `mort` table (Konatu).
 class real_font : public testing::TestWithParam<const char*> {
 protected:
-	void SetUp() override
-	{
-		std::string path = installed_font(GetParam());
-		if (path.empty() && fonts_are_required())
-			FAIL() << GetParam() << " is not installed";
-		if (path.empty())
-			GTEST_SKIP() << GetParam() << " is not installed";
-		file = read_file(path);
-	}
+	void SetUp() override { read_real_font(GetParam(), file); }
 
 	octets file;
 };

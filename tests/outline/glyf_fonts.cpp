@@ -8,6 +8,7 @@
 #include "outline/shape.h"
 #include "support/installed_fonts.h"
 #include "support/opened.h"
+#include "support/real_font.h"
 #include "support/recount.h"
 #include "support/sfnt.h"
 #include "support/temp_files.h"
@@ -40,15 +41,7 @@ operator<<(std::ostream& out, const chosen_font& font)
 // of many kibibytes (Symbola).
 class outline_font : public testing::TestWithParam<chosen_font> {
 protected:
-	void SetUp() override
-	{
-		std::string path = installed_font(GetParam().leaf);
-		if (path.empty() && fonts_are_required())
-			FAIL() << GetParam().leaf << " is not installed";
-		if (path.empty())
-			GTEST_SKIP() << GetParam().leaf << " is not installed";
-		file = read_file(path);
-	}
+	void SetUp() override { read_real_font(GetParam().leaf, file); }
 
 	octets file;
 };

@@ -18,26 +18,6 @@ static const BPoint mode_button(25, 410);
 static const BPoint set_button(25, 440);
 
 
-// What a press there sends.
-static texts
-sent_by(outline_stage& stage, float x, float y)
-{
-	stage.sent();
-	stage.user.click(BPoint(x, y));
-	return stage.sent();
-}
-
-
-// What a text sends that is entered there.
-static texts
-sent_by(outline_stage& stage, BPoint field, const std::string& text)
-{
-	stage.sent();
-	enter(stage.user, field, text);
-	return stage.sent();
-}
-
-
 static std::string
 label(outline_stage& stage)
 {

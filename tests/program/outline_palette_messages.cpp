@@ -13,26 +13,6 @@ static const BPoint code_field(30, 50);
 static const BPoint number_field(30, 80);
 
 
-// What a press there sends.
-static texts
-sent_by(outline_stage& stage, float x, float y)
-{
-	stage.sent();
-	stage.user.click(BPoint(x, y));
-	return stage.sent();
-}
-
-
-// What a text sends that is entered there.
-static texts
-sent_by(outline_stage& stage, BPoint field, const std::string& text)
-{
-	stage.sent();
-	enter(stage.user, field, text);
-	return stage.sent();
-}
-
-
 // Puts a text in place that no keyboard of the test has, and has its field send it.
 static texts
 sent_by_character(outline_stage& stage, const char* text)

@@ -3,6 +3,7 @@
 #include "program/outline_stage.h"
 
 #include "app/kernixview.h"
+#include "program/panel_user.h"
 #include "support/opened.h"
 
 #include <Application.h>
@@ -356,4 +357,22 @@ void
 at_outlines(const std::function<void(outline_stage&)>& work)
 {
 	at_outlines(outlines_font(), work);
+}
+
+
+texts
+sent_by(outline_stage& stage, float x, float y)
+{
+	stage.sent();
+	stage.user.click(BPoint(x, y));
+	return stage.sent();
+}
+
+
+texts
+sent_by(outline_stage& stage, BPoint field, const std::string& text)
+{
+	stage.sent();
+	enter(stage.user, field, text);
+	return stage.sent();
 }

@@ -83,4 +83,9 @@ void at_outlines(const std::function<void(outline_stage&)>& work);
 
 using texts = std::vector<std::string>;
 
+// What a press at a place of the panel sends.
+texts sent_by(outline_stage& stage, float x, float y);
+// What a text sends that is entered there.
+texts sent_by(outline_stage& stage, BPoint field, const std::string& text);
+
 #endif

@@ -40,25 +40,6 @@ of(const click_tool& tool, std::initializer_list<const char*> points)
 }
 
 
-// How many points are fixed, and all of them with the pending one.
-static std::string
-points_in(outline_user& user)
-{
-	std::string text = "none";
-	looking(user.app, [&] {
-		if (cur_object == nullptr)
-			return;
-		text = std::to_string(cur_object->state) + ":";
-		for (int32 i = 0; i < cur_object->num; i++) {
-			char point[64];
-			snprintf(point, sizeof point, " %g,%g", cur_object->pts[i].x, cur_object->pts[i].y);
-			text += point;
-		}
-	});
-	return text;
-}
-
-
 TEST(outline_tools, clicks_make_a_contour_that_a_click_on_the_last_finishes)
 {
 	with_both(empty, [](outline_user& user, const click_tool& tool) {

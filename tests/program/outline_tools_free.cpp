@@ -20,24 +20,6 @@ draw(outline_user& user, const std::vector<BPoint>& path)
 }
 
 
-static std::string
-points_in(outline_user& user)
-{
-	std::string text = "none";
-	looking(user.app, [&] {
-		if (cur_object == nullptr)
-			return;
-		text = std::to_string(cur_object->state) + ":";
-		for (int32 i = 0; i < cur_object->num; i++) {
-			char point[64];
-			snprintf(point, sizeof point, " %g,%g", cur_object->pts[i].x, cur_object->pts[i].y);
-			text += point;
-		}
-	});
-	return text;
-}
-
-
 TEST(outline_tools, a_stroke_keeps_every_unit_that_the_pointer_tells)
 {
 	at_outline(empty, [](outline_user& user) {

@@ -12,6 +12,7 @@
 #include <Message.h>
 #include <Messenger.h>
 
+#include "draw/object.h"
 #include "support/temp_files.h"
 
 // Where the edit view starts in the window.
@@ -235,4 +236,22 @@ outline_user::looks_fresh()
 		return testing::AssertionSuccess();
 	return testing::AssertionFailure()
 		<< others << " other pixels, the first at " << first.x() << ", " << first.y();
+}
+
+
+std::string
+points_in(outline_user& user)
+{
+	std::string text = "none";
+	looking(user.app, [&] {
+		if (cur_object == nullptr)
+			return;
+		text = std::to_string(cur_object->state) + ":";
+		for (int32 i = 0; i < cur_object->num; i++) {
+			char point[64];
+			snprintf(point, sizeof point, " %g,%g", cur_object->pts[i].x, cur_object->pts[i].y);
+			text += point;
+		}
+	});
+	return text;
 }

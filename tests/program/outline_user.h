@@ -81,4 +81,7 @@ public:
 void at_outline(const font_file& font, int16 glyph, const std::function<void(outline_user&)>& work);
 void at_outline(int16 glyph, const std::function<void(outline_user&)>& work);
 
+// Of the object in progress: its state, and all its points; "none" without one.
+std::string points_in(outline_user& user);
+
 #endif

@@ -8,8 +8,8 @@
 #include <gtest/gtest.h>
 
 #include "font/ttf.h"
-#include "support/installed_fonts.h"
 #include "support/opened.h"
+#include "support/real_font.h"
 #include "support/temp_files.h"
 #include "tables/ttf_cmap.h"
 
@@ -17,15 +17,7 @@
 // (IPA).
 class cmap_of_a_real_font : public testing::TestWithParam<const char*> {
 protected:
-	void SetUp() override
-	{
-		std::string path = installed_font(GetParam());
-		if (path.empty() && fonts_are_required())
-			FAIL() << GetParam() << " is not installed";
-		if (path.empty())
-			GTEST_SKIP() << GetParam() << " is not installed";
-		file = read_file(path);
-	}
+	void SetUp() override { read_real_font(GetParam(), file); }
 
 	octets file;
 };
