@@ -18,7 +18,7 @@ class shape;
 class object {
 public:
 	// The values of kind.
-	enum { free_hand = 0x10, rectangle = 0x30, ellipse = 0x40, polygon = 0x50, round = 0x51 };
+	enum { free_hand = 0x10, rectangle = 0x30, ellipse = 0x40, polygon = 0x50, rounded = 0x51 };
 	// What an event is: a press, with the secondary button too; a move, with the button held or
 	// not; a release. Objects pass over what they have no use for.
 	enum : unsigned char { press = 1, release = 2, drag = 3, hover = 4, step_back = 6 };

@@ -179,7 +179,7 @@ glyfeditview::begin_object()
 			break;
 		default:
 			cur_object = new obj_round;
-			cur_object->kind = object::round;
+			cur_object->kind = object::rounded;
 	}
 	edit_state = in_progress;
 }

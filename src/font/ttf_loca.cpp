@@ -24,22 +24,6 @@ ttf_loca::create_default()
 }
 
 
-int
-ttf_loca::get_offset(bool is32, int index, unsigned long* offset, unsigned long* size) const
-{
-	if (!holds(is32, index))
-		return -1;
-	uint32 unit = is32 ? 1 : 2;
-	uint32 start = unit * entry(is32, (uint32)index);
-	uint32 end = length;
-	if (holds(is32, (int64)index + 1))
-		end = unit * entry(is32, (uint32)index + 1);
-	*offset = start;
-	*size = (uint32)(end - start);
-	return 0;
-}
-
-
 // An entry of all ones ends the run, and so does a piece of an entry.
 template <class word, word (*get)(const uint8*), void (*put)(uint8*, word)>
 static void
@@ -68,19 +52,4 @@ ttf_loca::chg_length(bool is32, int index, unsigned long size)
 	else
 		shift<uint16, get16, ::put16>(data + (uint64)2 * later, data + length, delta);
 	return 0;
-}
-
-
-// Whether the entry at least begins inside the table; a piece of one reads as 0.
-bool
-ttf_loca::holds(bool is32, int64 index) const
-{
-	return index >= 0 && index * (is32 ? 4 : 2) < (int64)length;
-}
-
-
-uint32
-ttf_loca::entry(bool is32, uint32 index) const
-{
-	return is32 ? u32(4 * index) : u16(2 * index);
 }

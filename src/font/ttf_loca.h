@@ -28,8 +28,29 @@ public:
 	int chg_length(bool is32, int index, unsigned long size);
 
 private:
-	bool holds(bool is32, int64 index) const;
-	uint32 entry(bool is32, uint32 index) const;
+	// Whether the entry at least begins inside the table; a piece of one reads as 0.
+	bool holds(bool is32, int64 index) const
+	{
+		return index >= 0 && index * (is32 ? 4 : 2) < (int64)length;
+	}
+	uint32 entry(bool is32, uint32 index) const { return is32 ? u32(4 * index) : u16(2 * index); }
 };
+
+
+// Inline, as what it needs of head and maxp is: a save looks every glyph up.
+inline int
+ttf_loca::get_offset(bool is32, int index, unsigned long* offset, unsigned long* size) const
+{
+	if (!holds(is32, index))
+		return -1;
+	uint32 unit = is32 ? 1 : 2;
+	uint32 start = unit * entry(is32, (uint32)index);
+	uint32 end = length;
+	if (holds(is32, (int64)index + 1))
+		end = unit * entry(is32, (uint32)index + 1);
+	*offset = start;
+	*size = (uint32)(end - start);
+	return 0;
+}
 
 #endif

@@ -14,7 +14,6 @@
 // Byte offsets of the fields used here.
 enum {
 	at_version = 0,
-	at_numglyphs = 4,
 	at_points = 6,
 	at_contours = 8,
 	at_composite_points = 10,
@@ -69,24 +68,30 @@ ttf_maxp::create_default()
 }
 
 
+// Without a branch on the kind of a glyph, which is beyond any processor's guess.
 void
 ttf_maxp::update()
 {
-	glyph_info simple = {};
-	glyph_info composite = {};
+	uint16 points[2] = {};
+	uint16 contours[2] = {};
+	uint16 components = 0;
+	uint16 depth = 0;
 	for (const glyph_info& each : owner->glyph_infos()) {
-		glyph_info& most = each.depth != 0 ? composite : simple;
-		most.points = std::max(most.points, each.points);
-		most.contours = std::max(most.contours, each.contours);
-		most.components = std::max(most.components, each.components);
-		most.depth = std::max(most.depth, each.depth);
+		const uint16 if_composite = each.depth != 0 ? 0xFFFF : 0;
+		const uint16 if_simple = (uint16)~if_composite;
+		points[0] = std::max(points[0], (uint16)(each.points & if_simple));
+		points[1] = std::max(points[1], (uint16)(each.points & if_composite));
+		contours[0] = std::max(contours[0], (uint16)(each.contours & if_simple));
+		contours[1] = std::max(contours[1], (uint16)(each.contours & if_composite));
+		components = std::max(components, each.components);
+		depth = std::max(depth, each.depth);
 	}
-	put16(at_points, simple.points);
-	put16(at_contours, simple.contours);
-	put16(at_composite_points, composite.points);
-	put16(at_composite_contours, composite.contours);
-	put16(at_components, composite.components);
-	put16(at_depth, composite.depth);
+	put16(at_points, points[0]);
+	put16(at_contours, contours[0]);
+	put16(at_composite_points, points[1]);
+	put16(at_composite_contours, contours[1]);
+	put16(at_components, components);
+	put16(at_depth, depth);
 }
 
 
@@ -136,11 +141,4 @@ ttf_maxp::edit()
 		put16(at_stack, (uint16)elements);
 	}
 	Draw(Bounds());
-}
-
-
-unsigned short
-ttf_maxp::numglyphs() const
-{
-	return u16(at_numglyphs);
 }

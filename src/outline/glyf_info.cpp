@@ -7,13 +7,16 @@
 #include "outline/glyf_record.h"
 #include "outline/ttf_glyf.h"
 #include <algorithm>
-#include <optional>
+#include <utility>
+
+
+// Stands in the depth of what has not been worked out: no glyph lies that deep.
+static const uint16 not_known = 0xFFFF;
 
 
 // What one call has found out, and the way down to the record at hand.
 struct ttf_glyf::survey {
-	// By glyph, filled in as they are worked out; empty when nothing is kept.
-	std::vector<std::optional<glyph_info>> known;
+	std::vector<glyph_info> known; // by glyph; empty when nothing is kept
 	std::vector<uint16> path;
 	uint32 visits = 0;
 };
@@ -37,13 +40,12 @@ std::vector<glyph_info>
 ttf_glyf::all_info(uint32 count) const
 {
 	survey notes;
-	notes.known.resize(count);
-	std::vector<glyph_info> infos(count);
+	notes.known.resize(count, {not_known, 0, 0, 0});
 	for (uint32 i = 0; i < count; i++) {
 		notes.visits = 0;
-		infos[i] = info_of((uint16)i, notes);
+		info_of((uint16)i, notes);
 	}
-	return infos;
+	return std::move(notes.known);
 }
 
 
@@ -53,13 +55,12 @@ ttf_glyf::info_of(uint16 index, survey& notes) const
 {
 	glyph_info info = {};
 	bool kept = index < notes.known.size();
-	if (kept && notes.known[index])
-		return *notes.known[index];
+	if (kept && notes.known[index].depth != not_known)
+		return notes.known[index];
+	if ((int)notes.path.size() > deepest)
+		return info;
 	uint32 offset;
 	uint32 size;
-	bool repeated = std::find(notes.path.begin(), notes.path.end(), index) != notes.path.end();
-	if (repeated || (int)notes.path.size() > deepest)
-		return info;
 	if (owner->find_glyph(index, &offset, &size) && size != 0)
 		info = record_info(index, offset, notes);
 	if (kept)
@@ -74,6 +75,8 @@ ttf_glyf::record_info(uint16 index, uint32 offset, survey& notes) const
 	cursor record(all(), offset);
 	int contours = record.s16();
 	if (contours < 0) {
+		if (std::find(notes.path.begin(), notes.path.end(), index) != notes.path.end())
+			return {};
 		record.skip(record_header - 2);
 		notes.path.push_back(index);
 		glyph_info info = composite_info(record, notes);

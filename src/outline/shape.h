@@ -17,15 +17,19 @@ class BView;
 //
 // Used in one thread at a time. What points beyond the capacity, or a selection that names no
 // point, would touch is left alone.
-class shape {
+class shape final {
 public:
 	enum { max_points = 1024 };
 
 	// Points unset: set() all of them, then ctrlp2form(). n is kept within 0 and the capacity.
 	explicit shape(int n);
-	~shape();
 	shape(const shape&) = delete;
 	shape& operator=(const shape&) = delete;
+
+	// Memory that an earlier contour of the same thread left, when there is some. No class derives
+	// from this one.
+	static void* operator new(size_t size);
+	static void operator delete(void* memory);
 
 	// With the selection and the frame, but not armed. The caller owns it.
 	shape* copy() const;
@@ -93,7 +97,7 @@ public:
 	// The box of all points, control points too; stale after set(), transcopy() and reverse().
 	BRect frame;
 	int32 num;
-	// Owned, max_points each, of which num count.
+	// max_points each, of which num count; they lie in the contour itself.
 	BPoint* pts;
 	char* onoff;
 
@@ -103,6 +107,9 @@ private:
 	BPoint start() const;
 	void trace(BShape& path) const;
 	bool belongs_after(int32 i, const BPoint& point) const;
+
+	// For both arrays.
+	alignas(BPoint) unsigned char fPoints[max_points * (sizeof(BPoint) + 1)];
 };
 
 #endif

@@ -60,6 +60,8 @@ public:
 
 	uint32 first(uint32 index) const { return sub.u16(at_starts + size + 2 * index); }
 	uint32 last(uint32 index) const { return sub.u16(at_ends + 2 * index); }
+	// As the format asks for: upwards, and no code twice.
+	bool in_order(uint32 segments) const;
 	uint16 glyph(uint32 index, uint32 code) const;
 
 private:
@@ -86,6 +88,19 @@ public:
 private:
 	std::vector<uint32> next; // the code itself while it is open, else some code after it
 };
+
+
+bool
+segment_list::in_order(uint32 segments) const
+{
+	uint32 next = 0;
+	for (uint32 index = 0; index < segments; index++) {
+		if (first(index) < next || last(index) < first(index))
+			return false;
+		next = last(index) + 1;
+	}
+	return true;
+}
 
 
 // An array's glyph is counted from the segment's delta too when it is 0, unlike in other readers.
@@ -142,11 +157,19 @@ ttf_cmap::get_tbl()
 		return -1;
 	if (chosen.u16(at_format) != 4)
 		return 1;
-	segment_list segments(chosen);
+	const segment_list segments(chosen);
+	const uint32 count = segments.count();
+	if (segments.in_order(count)) {
+		for (uint32 index = 0; index < count; index++) {
+			for (uint32 code = segments.first(index); code <= segments.last(index); code++)
+				map[code] = segments.glyph(index, code);
+		}
+		return 0;
+	}
 	// The last segment of a code decides. Backwards each code is visited once, however many
 	// segments overlap: a small file could name all codes thirty thousand times.
 	open_codes open;
-	for (uint32 index = segments.count(); index-- > 0;) {
+	for (uint32 index = count; index-- > 0;) {
 		uint32 code = open.from(segments.first(index));
 		for (; code <= segments.last(index); code = open.from(code)) {
 			map[code] = segments.glyph(index, code);

@@ -81,7 +81,7 @@ TEST(object, knows_the_codes_of_the_tools)
 	EXPECT_EQ(object::rectangle, 0x30);
 	EXPECT_EQ(object::ellipse, 0x40);
 	EXPECT_EQ(object::polygon, 0x50);
-	EXPECT_EQ(object::round, 0x51);
+	EXPECT_EQ(object::rounded, 0x51);
 }
 
 
