@@ -20,9 +20,23 @@ public:
 	status_t SetTo(const char* path);
 
 	// Makes a file and opens `file` on it for reading and writing. `name` may lead through folders
-	// below this one, which must exist. A file that is already there is emptied, or with
-	// `failIfExists` left alone and B_FILE_EXISTS returned. On failure `file` is not open. `file`
-	// may be NULL: the file is only made.
+	// below this one, which must exist. On failure `file` is not open. `file` may be NULL: the file
+	// is only made.
+	//
+	// With `failIfExists` a file that is already there is left alone and B_FILE_EXISTS returned. Else
+	// `file` is a new, empty one in its stead. The old one keeps its contents until `file` is closed,
+	// for good when a write failed (see BFile) or the process ends before; then the new one replaces
+	// it all at once. What is not closed yet is seen through `file` only. The new file has the old
+	// one's permission bits, its extended attributes, and its owner and group if the user may give
+	// them; without the old group, that has no more rights than everybody. A link stays and the file
+	// it leads to is replaced, but other names of the old file (hard links) keep the old contents.
+	// Nothing is forced to the disk: what a failure of the machine leaves is not told.
+	//
+	// Emptied at once and written itself, as long as the user may write to it, is a file whose folder
+	// takes no new one or does not let it be replaced. What is no regular file is just opened. When
+	// there is no space to begin with the call fails and the old file stays.
+	//
+	// A file under a new name is written where it is: what a failed write leaves of it stays.
 	status_t CreateFile(const char* name, BFile* file, bool failIfExists = false);
 };
 

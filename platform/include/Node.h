@@ -4,13 +4,18 @@
 #define KITS_NODE_H
 
 #include <Entry.h>
+#include <memory>
 #include <SupportDefs.h>
+
+namespace kits {
+class replacement;
+}
 
 // Something on disk that is held open: the common part of files and directories. One thread at a
 // time.
 class BNode : public BStatable {
 public:
-	BNode() = default;
+	BNode();
 	~BNode() override;
 	BNode(const BNode&) = delete;
 	BNode& operator=(const BNode&) = delete;
@@ -18,7 +23,7 @@ public:
 	// B_OK while it is open, else why it is not; B_NO_INIT before anything was opened.
 	status_t InitCheck() const;
 
-	// Closes.
+	// Closes. A file that was written to replace an old one takes its place now.
 	void Unset();
 
 	status_t GetStat(struct stat* st) const override;
@@ -31,12 +36,19 @@ protected:
 	// Closes what is open and keeps the reason.
 	status_t Fail(status_t reason);
 
+	// Closes the old file that is open and works on the new one instead, until that is closed.
+	void Replace(std::unique_ptr<kits::replacement> made);
+
+	// What is being written will not be whole: if it was to replace an old file, that one stays.
+	void Spoil();
+
 	int Descriptor() const { return fDescriptor; }
 
 private:
 	friend class BNodeInfo;
 
-	int fDescriptor = -1; // owned
+	int fDescriptor = -1; // owned, or the replacement's
+	std::unique_ptr<kits::replacement> fReplacement;
 	status_t fStatus = B_NO_INIT;
 };
 

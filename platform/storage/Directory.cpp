@@ -55,7 +55,7 @@ BDirectory::CreateFile(const char* name, BFile* file, bool failIfExists)
 	if (name == nullptr) {
 		return B_BAD_VALUE;
 	}
-	const uint32 mode =
-		B_READ_WRITE | B_CREATE_FILE | (failIfExists ? B_FAIL_IF_EXISTS : B_ERASE_FILE);
-	return created.OpenFile(Descriptor(), name, mode);
+	const status_t status =
+		created.OpenFile(Descriptor(), name, B_READ_WRITE | B_CREATE_FILE | B_FAIL_IF_EXISTS);
+	return status != B_FILE_EXISTS || failIfExists ? status : created.OpenAnew(Descriptor(), name);
 }

@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "storage/errno_status.h"
 #include "storage/ref_paths.h"
+#include "storage/replacement.h"
 #include <File.h>
 
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <string>
+#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -107,11 +110,12 @@ BFile::Write(const void* buffer, size_t size)
 		return B_NO_INIT;
 	}
 	if (buffer == nullptr) {
-		return B_BAD_VALUE;
+		return Written(B_BAD_VALUE, size);
 	}
-	return move_bytes(size, [&](size_t done) {
+	const ssize_t moved = move_bytes(size, [&](size_t done) {
 		return write(Descriptor(), static_cast<const char*>(buffer) + done, size - done);
 	});
+	return Written(moved, size);
 }
 
 
@@ -138,12 +142,13 @@ BFile::WriteAt(off_t position, const void* buffer, size_t size)
 		return B_NO_INIT;
 	}
 	if (buffer == nullptr) {
-		return B_BAD_VALUE;
+		return Written(B_BAD_VALUE, size);
 	}
-	return move_bytes(size, [&](size_t done) {
+	const ssize_t moved = move_bytes(size, [&](size_t done) {
 		return pwrite(Descriptor(), static_cast<const char*>(buffer) + done, size - done,
 			position + static_cast<off_t>(done));
 	});
+	return Written(moved, size);
 }
 
 
@@ -182,7 +187,12 @@ BFile::SetSize(off_t size)
 	do {
 		result = ftruncate(Descriptor(), size);
 	} while (result != 0 && errno == EINTR);
-	return result == 0 ? B_OK : status_of_errno(errno);
+	if (result == 0) {
+		return B_OK;
+	}
+	const status_t status = status_of_errno(errno);
+	Spoil();
+	return status;
 }
 
 
@@ -203,4 +213,35 @@ BFile::OpenFile(int from, const char* path, uint32 openMode)
 		return Fail(B_IS_A_DIRECTORY);
 	}
 	return status;
+}
+
+
+status_t
+BFile::OpenAnew(int from, const char* path)
+{
+	struct stat st = {};
+	const bool exists = fstatat(from, path, &st, 0) == 0;
+	status_t status =
+		OpenFile(from, path, B_READ_WRITE | B_CREATE_FILE | (exists ? 0 : B_ERASE_FILE));
+	if (status != B_OK || !exists) {
+		return status;
+	}
+	std::unique_ptr<kits::replacement> made;
+	status = kits::replacement::begin(Descriptor(), &made);
+	if (made != nullptr) {
+		Replace(std::move(made));
+	} else if (status == B_OK && IsFile()) {
+		status = SetSize(0);
+	}
+	return status == B_OK ? B_OK : Fail(status);
+}
+
+
+ssize_t
+BFile::Written(ssize_t moved, size_t size)
+{
+	if (size > 0 && moved != static_cast<ssize_t>(size)) {
+		Spoil();
+	}
+	return moved;
 }

@@ -1,18 +1,23 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 #include "storage/errno_status.h"
+#include "storage/replacement.h"
 #include <Node.h>
 
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 constexpr mode_t kNewFileMode = 0666; // less what the user's mask takes away
 
 }
+
+
+BNode::BNode() = default;
 
 
 BNode::~BNode()
@@ -31,7 +36,10 @@ BNode::InitCheck() const
 void
 BNode::Unset()
 {
-	if (fDescriptor >= 0) {
+	if (fReplacement != nullptr) {
+		fReplacement->close();
+		fReplacement.reset();
+	} else if (fDescriptor >= 0) {
 		// Never repeated: the descriptor is gone also when close() was interrupted.
 		close(fDescriptor);
 	}
@@ -69,4 +77,23 @@ BNode::Fail(status_t reason)
 {
 	Unset();
 	return fStatus = reason;
+}
+
+
+void
+BNode::Replace(std::unique_ptr<kits::replacement> made)
+{
+	Unset();
+	fReplacement = std::move(made);
+	fDescriptor = fReplacement->descriptor();
+	fStatus = B_OK;
+}
+
+
+void
+BNode::Spoil()
+{
+	if (fReplacement != nullptr) {
+		fReplacement->spoil();
+	}
 }

@@ -6,6 +6,7 @@
 #include "app/kernixwindow.h"
 #include "font/globals.h"
 #include "program/journey.h"
+#include "support/attributes.h"
 #include "support/expected_save.h"
 #include "support/sfnt.h"
 #include "support/temp_files.h"
@@ -14,27 +15,15 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <Messenger.h>
-#include <sys/xattr.h>
 
 using tags = std::vector<std::string>;
 using std::filesystem::exists;
 
 
-// Temporary folders often lie in memory, where not every system keeps attributes.
-static bool
-keeps_attributes(const temp_folder& folder)
-{
-	write_file(folder.path("probe"), {});
-	return setxattr(folder.path("probe").c_str(), "user.probe", "x", 1, 0) == 0;
-}
-
-
 static std::string
 type_of(const std::string& path)
 {
-	char value[100] = {};
-	ssize_t length = getxattr(path.c_str(), "user.mime_type", value, sizeof value);
-	return length < 0 ? "none" : std::string(value, (size_t)length);
+	return attribute_of(path, "user.mime_type");
 }
 
 
@@ -153,19 +142,6 @@ TEST(saving, over_the_file_that_was_opened_replaces_it)
 }
 
 
-TEST(saving, over_a_longer_file_leaves_nothing_of_it)
-{
-	temp_file font(tiny_font());
-	temp_folder folder;
-	write_file(folder.path("saved.ttf"), octets(5000, 0xEE));
-	journey([&](kernix&, robot& user) {
-		open_file(user, font.path());
-		save_file(user, folder.path(), "saved.ttf");
-		expect_saved(tiny_font(), folder.path("saved.ttf"));
-	});
-}
-
-
 TEST(saving, by_the_panel_over_a_file_replaces_it_when_the_user_agrees)
 {
 	temp_file font(tiny_font());
@@ -262,23 +238,6 @@ TEST(saving, after_a_font_and_a_failed_open_makes_no_file_and_empties_none)
 }
 
 
-TEST(saving, does_not_set_the_type_of_a_file_that_it_did_not_write)
-{
-	temp_file font(tiny_font());
-	temp_file no_font(hex("00 01 02"));
-	temp_folder folder;
-	if (!keeps_attributes(folder))
-		GTEST_SKIP() << "no attributes in " << folder.path();
-	write_file(folder.path("old.ttf"), hex("0a 0b 0c"));
-	journey([&](kernix&, robot& user) {
-		open_file(user, font.path());
-		open_file(user, no_font.path());
-		save_file(user, folder.path(), "old.ttf");
-		EXPECT_EQ(type_of(folder.path("old.ttf")), "none");
-	});
-}
-
-
 TEST(saving, without_a_folder_or_a_name_saves_nothing_and_forgets_the_panel)
 {
 	temp_file font(tiny_font());
@@ -294,66 +253,6 @@ TEST(saving, without_a_folder_or_a_name_saves_nothing_and_forgets_the_panel)
 			EXPECT_EQ(fpanel, nullptr) << missing;
 		}
 		EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
-	});
-}
-
-
-TEST(saving, into_a_folder_that_has_gone_does_no_harm)
-{
-	temp_file font(tiny_font());
-	temp_folder folder;
-	std::filesystem::create_directory(folder.path("gone"));
-	journey([&](kernix& app, robot& user) {
-		open_file(user, font.path());
-		BMessage message = save_answer(folder.path("gone"), "saved.ttf");
-		std::filesystem::remove(folder.path("gone"));
-		be_app_messenger.SendMessage(&message);
-		user.settle();
-		EXPECT_FALSE(exists(folder.path("gone")));
-		EXPECT_EQ(fpanel, nullptr);
-		EXPECT_EQ(listed(app).size(), 7u);
-		save_file(user, folder.path(), "saved.ttf");
-		expect_saved(tiny_font(), folder.path("saved.ttf"));
-	});
-}
-
-
-TEST(saving, into_a_folder_that_takes_no_file_does_no_harm)
-{
-	temp_file font(tiny_font());
-	temp_folder folder;
-	journey([&](kernix& app, robot& user) {
-		open_file(user, font.path());
-		// Nobody may make files there, not even the superuser.
-		save_file(user, "/proc", "saved.ttf");
-		EXPECT_EQ(listed(app).size(), 7u);
-		save_file(user, folder.path(), "saved.ttf");
-		expect_saved(tiny_font(), folder.path("saved.ttf"));
-	});
-}
-
-
-TEST(saving, under_the_name_of_a_folder_does_no_harm)
-{
-	temp_file font(tiny_font());
-	temp_folder folder;
-	std::filesystem::create_directory(folder.path("saved.ttf"));
-	journey([&](kernix& app, robot& user) {
-		open_file(user, font.path());
-		save_file(user, folder.path(), "saved.ttf");
-		EXPECT_TRUE(std::filesystem::is_directory(folder.path("saved.ttf")));
-		EXPECT_EQ(listed(app).size(), 7u);
-	});
-}
-
-
-TEST(saving, to_a_full_device_does_no_harm)
-{
-	temp_file font(tiny_font());
-	journey([&](kernix& app, robot& user) {
-		open_file(user, font.path());
-		save_file(user, "/dev", "full");
-		EXPECT_EQ(listed(app).size(), 7u);
 	});
 }
 

@@ -1,43 +1,20 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 #include "platform/storage/stored.h"
+#include "support/size_limit.h"
 #include "support/temp_files.h"
 #include <Entry.h>
 #include <File.h>
 #include <StorageDefs.h>
 
-#include <csignal>
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
-
-// Files may not grow beyond so many bytes while it lives.
-class size_limit {
-public:
-	explicit size_limit(rlim_t bytes)
-	{
-		getrlimit(RLIMIT_FSIZE, &fBefore);
-		const rlimit limit = {bytes, fBefore.rlim_max};
-		setrlimit(RLIMIT_FSIZE, &limit);
-		fHandler = signal(SIGXFSZ, SIG_IGN);
-	}
-	~size_limit()
-	{
-		setrlimit(RLIMIT_FSIZE, &fBefore);
-		signal(SIGXFSZ, fHandler);
-	}
-
-private:
-	rlimit fBefore = {};
-	sighandler_t fHandler = nullptr;
-};
-
 
 // How many descriptors of the process lead into the folder.
 int

@@ -1,6 +1,7 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 #include "platform/storage/stored.h"
+#include "support/attributes.h"
 #include "support/temp_files.h"
 #include <AppFileInfo.h>
 #include <File.h>
@@ -14,21 +15,10 @@
 
 namespace {
 
-// Temporary folders often lie in memory, where not every system keeps attributes.
-bool
-keeps_attributes(const temp_folder& folder)
-{
-	store(folder.path("probe"), "");
-	return setxattr(folder.path("probe").c_str(), "user.probe", "x", 1, 0) == 0;
-}
-
-
 std::string
-attribute_of(const std::string& path)
+type_attribute_of(const std::string& path)
 {
-	char value[1000] = {};
-	const ssize_t length = getxattr(path.c_str(), "user.mime_type", value, sizeof(value));
-	return length < 0 ? "none" : std::string(value, static_cast<size_t>(length));
+	return attribute_of(path, "user.mime_type");
 }
 
 }
@@ -46,7 +36,7 @@ TEST(file_type, is_kept_where_the_desktops_look_for_it)
 	store(folder.path("file"), "12345");
 	BFile file(folder.path("file").c_str(), B_READ_WRITE);
 	EXPECT_EQ(BAppFileInfo(&file).SetType("font/ttf"), B_OK);
-	EXPECT_EQ(attribute_of(folder.path("file")), "font/ttf");
+	EXPECT_EQ(type_attribute_of(folder.path("file")), "font/ttf");
 }
 
 
@@ -76,7 +66,7 @@ TEST(file_type, is_taken_away_by_none)
 	BNodeInfo info(&file);
 	EXPECT_EQ(info.SetType("font/ttf"), B_OK);
 	EXPECT_EQ(info.SetType(nullptr), B_OK);
-	EXPECT_EQ(attribute_of(folder.path("file")), "none");
+	EXPECT_EQ(type_attribute_of(folder.path("file")), "none");
 	char type[B_MIME_TYPE_LENGTH] = "untouched";
 	EXPECT_EQ(info.GetType(type), B_ENTRY_NOT_FOUND);
 	EXPECT_STREQ(type, "untouched");

@@ -4,7 +4,9 @@
 
 #include "support/temp_files.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -28,6 +30,18 @@ stored(const std::string& path)
 {
 	const octets contents = read_file(path);
 	return std::string(contents.begin(), contents.end());
+}
+
+
+std::vector<std::string>
+names_in(const std::string& folder)
+{
+	std::vector<std::string> names;
+	for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+		names.push_back(entry.path().filename().string());
+	}
+	std::sort(names.begin(), names.end());
+	return names;
 }
 
 

@@ -6,10 +6,14 @@
 #include <sys/types.h>
 
 #include <string>
+#include <vector>
 
 // Files as text, written and read without the kits. Both throw when the file cannot be had.
 void store(const std::string& path, const std::string& text);
 std::string stored(const std::string& path);
+
+// What lies in a folder, hidden or not, in the order of the names.
+std::vector<std::string> names_in(const std::string& folder);
 
 // Makes a folder below an existing one.
 void make_folder(const std::string& path);
