@@ -1,9 +1,13 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 
-// The outline edit view: what it is told by messages.
+// The outline edit view: what it is told by messages, and the use of its tools.
 #include "app/kernixwindow.h"
-#include "draw/object.h"
+#include "draw/obj_ellipse.h"
+#include "draw/obj_free.h"
+#include "draw/obj_polygon.h"
+#include "draw/obj_rect.h"
+#include "draw/obj_round.h"
 #include "editor/glyfeditview.h"
 #include "font/globals.h"
 #include "font/messages.h"
@@ -12,6 +16,7 @@
 #include "outline/ttf_glyf.h"
 #include <AppDefs.h>
 #include <cmath>
+#include <memory>
 #include <Message.h>
 
 // 1.0 in 2.14.
@@ -263,4 +268,51 @@ glyfeditview::take_tool(int8 tool)
 	if (inked)
 		redraw(draw_full);
 	send2toolv(tell_mode);
+}
+
+
+void
+glyfeditview::begin_object()
+{
+	drop_object();
+	switch (tool_mode) {
+		case free_tool:
+			cur_object = new obj_free;
+			cur_object->kind = object::free_hand;
+			break;
+		case rect_tool:
+			cur_object = new obj_rect;
+			cur_object->kind = object::rectangle;
+			break;
+		case ellipse_tool:
+			cur_object = new obj_ellipse;
+			cur_object->kind = object::ellipse;
+			break;
+		case polygon_tool:
+			cur_object = new obj_polygon;
+			cur_object->kind = object::polygon;
+			break;
+		default:
+			cur_object = new obj_round;
+			cur_object->kind = object::rounded;
+	}
+	edit_state = in_progress;
+}
+
+
+void
+glyfeditview::adopt_contours()
+{
+	std::unique_ptr<shape*[]> contours(cur_object->to_shape());
+	for (int32 i = 0; contours != nullptr && contours[i] != nullptr; i++)
+		cur_glyph->add_shape(contours[i]);
+	send2toolv(tell_empty);
+}
+
+
+void
+glyfeditview::drop_object()
+{
+	delete cur_object;
+	cur_object = nullptr;
 }

@@ -3,11 +3,7 @@
 
 // The outline edit view: pointer, pen and keys.
 #include "app/kernixwindow.h"
-#include "draw/obj_ellipse.h"
 #include "draw/obj_free.h"
-#include "draw/obj_polygon.h"
-#include "draw/obj_rect.h"
-#include "draw/obj_round.h"
 #include "editor/glyfeditview.h"
 #include "font/globals.h"
 #include "font/truncate.h"
@@ -17,7 +13,6 @@
 #include "outline/ttf_glyf.h"
 #include <algorithm>
 #include <InterfaceDefs.h>
-#include <memory>
 
 // View pixels around a point within which it is hit.
 static const float reach = 2;
@@ -156,35 +151,6 @@ glyfeditview::press_tool(BPoint where, unsigned char buttons)
 }
 
 
-void
-glyfeditview::begin_object()
-{
-	drop_object();
-	switch (tool_mode) {
-		case free_tool:
-			cur_object = new obj_free;
-			cur_object->kind = object::free_hand;
-			break;
-		case rect_tool:
-			cur_object = new obj_rect;
-			cur_object->kind = object::rectangle;
-			break;
-		case ellipse_tool:
-			cur_object = new obj_ellipse;
-			cur_object->kind = object::ellipse;
-			break;
-		case polygon_tool:
-			cur_object = new obj_polygon;
-			cur_object->kind = object::polygon;
-			break;
-		default:
-			cur_object = new obj_round;
-			cur_object->kind = object::rounded;
-	}
-	edit_state = in_progress;
-}
-
-
 // Hands an event to the object, whose preview has been lifted, and takes what comes of it.
 void
 glyfeditview::feed_object(unsigned char event, BPoint where)
@@ -199,24 +165,6 @@ glyfeditview::feed_object(unsigned char event, BPoint where)
 		edit_state = idle;
 	}
 	redraw(edit_state == idle ? draw_full : draw_overlays);
-}
-
-
-void
-glyfeditview::adopt_contours()
-{
-	std::unique_ptr<shape*[]> contours(cur_object->to_shape());
-	for (int32 i = 0; contours != nullptr && contours[i] != nullptr; i++)
-		cur_glyph->add_shape(contours[i]);
-	send2toolv(tell_empty);
-}
-
-
-void
-glyfeditview::drop_object()
-{
-	delete cur_object;
-	cur_object = nullptr;
 }
 
 
