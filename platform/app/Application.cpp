@@ -16,10 +16,7 @@ using namespace kits;
 BApplication* be_app = nullptr;
 
 
-BApplication::BApplication(const char* signature)
-	: BLooper(signature),
-	  fSignature(signature ? signature : ""),
-	  fStarted(false)
+BApplication::BApplication(const char* signature) : BLooper(signature), fStarted(false)
 {
 	display::start();
 	be_app = this;

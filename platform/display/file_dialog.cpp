@@ -101,7 +101,7 @@ private:
 
 
 std::shared_ptr<file_dialog>
-file_dialogs::make(const dialog_options& options, dialog_answer answer)
+file_dialogs::make(const dialog_options& options, const dialog_answer& answer)
 {
 	auto made = std::make_shared<file_dialog>();
 	display::post([=] { made->widget = new dialog_widget(options, answer); });

@@ -31,7 +31,7 @@ using dialog_answer = std::function<void(const std::vector<std::string>&)>;
 // Commands; any thread. A dialog that has answered stays hidden until it is shown again.
 namespace file_dialogs {
 
-std::shared_ptr<file_dialog> make(const dialog_options& options, dialog_answer answer);
+std::shared_ptr<file_dialog> make(const dialog_options& options, const dialog_answer& answer);
 void show(const std::shared_ptr<file_dialog>& dialog, bool shown);
 void destroy(const std::shared_ptr<file_dialog>& dialog);
 

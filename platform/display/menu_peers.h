@@ -15,7 +15,6 @@ namespace kits {
 struct menu_entry {
 	int32 id;
 	std::string label;
-	char shortcut;
 	bool marked;
 	bool enabled;
 	bool opens;

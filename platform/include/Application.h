@@ -6,7 +6,6 @@
 
 #include <Looper.h>
 #include <mutex>
-#include <string>
 #include <vector>
 
 class BWindow;
@@ -54,7 +53,6 @@ private:
 	std::vector<BWindow*> _Windows() const;
 	std::vector<BWindow*> _RunningWindows() const;
 
-	std::string fSignature;
 	// Windows come and go in their own threads.
 	mutable std::mutex fWindowLock;
 	std::vector<BWindow*> fWindows;

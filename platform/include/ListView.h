@@ -30,7 +30,6 @@ public:
 	virtual void SetSelectionMessage(BMessage* message);
 	BMessage* SelectionMessage() const;
 	virtual void SetInvocationMessage(BMessage* message);
-	BMessage* InvocationMessage() const;
 	// Sends nothing without a message of its own or the argument.
 	status_t Invoke(BMessage* message = NULL) override;
 

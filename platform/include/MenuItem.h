@@ -12,7 +12,7 @@ class BMenu;
 // A line of a menu: sends its message when the user chooses it, or opens its submenu.
 class BMenuItem : public BArchivable, public BInvoker {
 public:
-	// Takes the message over. A shortcut implies the Command key.
+	// Takes the message over. Shortcuts of menus are not offered: the last two change nothing.
 	BMenuItem(const char* label, BMessage* message, char shortcut = 0, uint32 modifiers = 0);
 	// Takes the menu over.
 	explicit BMenuItem(BMenu* submenu, BMessage* message = NULL);
@@ -42,8 +42,6 @@ private:
 	BMenu* fSubmenu;
 	// Names the item to the display side.
 	const int32 fId;
-	char fShortcut;
-	uint32 fModifiers;
 	bool fMarked;
 	bool fEnabled;
 };

@@ -21,7 +21,6 @@ public:
 
 	// Takes the message over.
 	virtual void SetModificationMessage(BMessage* message);
-	BMessage* ModificationMessage() const;
 	// Clamped to the limits; sends nothing.
 	void SetValue(int32 value) override;
 	void GetLimits(int32* min, int32* max) const;

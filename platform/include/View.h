@@ -276,7 +276,6 @@ private:
 	void _Key(BMessage* message);
 	status_t _Watch(uint32& mask, uint32 wanted);
 	void _EndWatch();
-	bool _CanBeSeen() const;
 	void _ForgetImages();
 	void _VisibilityChanged();
 	bool _Context(kits::drawing_context& context) const;

@@ -1,5 +1,6 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
+#include "app/invocation.h"
 #include "display/control_look.h"
 #include "display/field_peers.h"
 #include "interface/peer_access.h"
@@ -8,7 +9,6 @@
 #include <Control.h>
 #include <Errors.h>
 #include <Message.h>
-#include <OS.h>
 #include <Window.h>
 
 using namespace kits;
@@ -80,16 +80,12 @@ BControl::IsEnabled() const
 status_t
 BControl::Invoke(BMessage* message)
 {
-	if (!message)
-		message = Message();
-	if (!message)
+	std::optional<BMessage> sent = invocation(*this, message, this);
+	if (!sent)
 		return B_BAD_VALUE;
-	BMessage copy(*message);
-	copy.AddInt64("when", system_time());
-	copy.AddPointer("source", this);
-	copy.AddInt32("be:value", fValue);
-	copy.AddMessenger("be:sender", BMessenger(this));
-	return BInvoker::Invoke(&copy);
+	sent->AddInt32("be:value", fValue);
+	sent->AddMessenger("be:sender", BMessenger(this));
+	return BInvoker::Invoke(&*sent);
 }
 
 

@@ -1,5 +1,6 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
+#include "app/invocation.h"
 #include "display/list_peers.h"
 #include "interface/peer_access.h"
 
@@ -7,7 +8,6 @@
 #include <Errors.h>
 #include <ListView.h>
 #include <Message.h>
-#include <OS.h>
 #include <Window.h>
 
 using namespace kits;
@@ -46,29 +46,18 @@ BListView::SetInvocationMessage(BMessage* message)
 }
 
 
-BMessage*
-BListView::InvocationMessage() const
-{
-	return Message();
-}
-
-
 status_t
 BListView::Invoke(BMessage* message)
 {
-	if (!message)
-		message = Message();
-	if (!message)
+	std::optional<BMessage> sent = invocation(*this, message, this);
+	if (!sent)
 		return B_BAD_VALUE;
-	BMessage copy(*message);
-	copy.AddInt64("when", system_time());
-	copy.AddPointer("source", this);
-	copy.AddMessenger("be:sender", BMessenger(this));
+	sent->AddMessenger("be:sender", BMessenger(this));
 	for (int32 row : fSelected)
-		copy.AddInt32("index", row);
+		sent->AddInt32("index", row);
 	if (fSelected.empty() && fType == B_SINGLE_SELECTION_LIST)
-		copy.AddInt32("index", -1);
-	return BInvoker::Invoke(&copy);
+		sent->AddInt32("index", -1);
+	return BInvoker::Invoke(&*sent);
 }
 
 

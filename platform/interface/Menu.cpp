@@ -321,8 +321,8 @@ menu_access::entries_of(const BMenu& menu)
 menu_entry
 menu_access::entry_of(const BMenuItem& item)
 {
-	menu_entry entry{item.fId, item.fLabel, item.fShortcut, item.fMarked, item.fEnabled,
-		item.fSubmenu != nullptr, {}};
+	menu_entry entry{
+		item.fId, item.fLabel, item.fMarked, item.fEnabled, item.fSubmenu != nullptr, {}};
 	if (item.fSubmenu)
 		entry.entries = entries_of(*item.fSubmenu);
 	return entry;

@@ -1,5 +1,6 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
+#include "app/invocation.h"
 #include "interface/menu_access.h"
 #include "interface/view_state.h"
 
@@ -8,7 +9,6 @@
 #include <MenuField.h>
 #include <MenuItem.h>
 #include <Message.h>
-#include <OS.h>
 
 #include <atomic>
 
@@ -27,14 +27,12 @@ next_id()
 }
 
 
-BMenuItem::BMenuItem(const char* label, BMessage* message, char shortcut, uint32 modifiers)
+BMenuItem::BMenuItem(const char* label, BMessage* message, char, uint32)
 	: BInvoker(message),
 	  fLabel(label ? label : ""),
 	  fMenu(nullptr),
 	  fSubmenu(nullptr),
 	  fId(next_id()),
-	  fShortcut(shortcut),
-	  fModifiers(modifiers),
 	  fMarked(false),
 	  fEnabled(true)
 {
@@ -112,18 +110,14 @@ BMenuItem::Menu() const
 status_t
 BMenuItem::Invoke(BMessage* message)
 {
-	if (!message)
-		message = Message();
-	if (!message)
+	std::optional<BMessage> sent = invocation(*this, message, this);
+	if (!sent)
 		return B_BAD_VALUE;
-	BMessage copy(*message);
-	copy.AddInt64("when", system_time());
-	copy.AddPointer("source", this);
 	if (fMenu) {
-		copy.AddInt32("index", fMenu->IndexOf(this));
-		copy.AddMessenger("be:sender", BMessenger(fMenu));
+		sent->AddInt32("index", fMenu->IndexOf(this));
+		sent->AddMessenger("be:sender", BMessenger(fMenu));
 	}
-	return BInvoker::Invoke(&copy);
+	return BInvoker::Invoke(&*sent);
 }
 
 

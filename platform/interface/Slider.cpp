@@ -33,13 +33,6 @@ BSlider::SetModificationMessage(BMessage* message)
 }
 
 
-BMessage*
-BSlider::ModificationMessage() const
-{
-	return fModification.get();
-}
-
-
 void
 BSlider::SetValue(int32 value)
 {

@@ -307,13 +307,6 @@ BView::IsHidden(const BView* lookingFrom) const
 }
 
 
-bool
-BView::_CanBeSeen() const
-{
-	return fState->window && fState->window->_OnScreen() && !IsHidden();
-}
-
-
 // What comes into sight has to be drawn anew, since nothing that is out of sight keeps its pixels.
 void
 BView::_VisibilityChanged()
@@ -346,9 +339,9 @@ BView::_ViewAt(BPoint where)
 {
 	if (fState->hidden > 0 || !Bounds().Contains(where))
 		return nullptr;
-	auto& children = fState->children;
-	for (auto child = children.rbegin(); child != children.rend(); ++child) {
-		if (BView* found = (*child)->_ViewAt((*child)->ConvertFromParent(where)))
+	for (size_t above = fState->children.size(); above > 0; above--) {
+		BView* child = fState->children[above - 1];
+		if (BView* found = child->_ViewAt(child->ConvertFromParent(where)))
 			return found;
 	}
 	return this;

@@ -10,7 +10,7 @@
 namespace {
 
 // As a place only: a folder that may be written but not listed serves as well.
-constexpr int kOpenDirectory = O_PATH | O_DIRECTORY;
+constexpr int open_directory = O_PATH | O_DIRECTORY;
 
 }
 
@@ -39,7 +39,7 @@ BDirectory::SetTo(const entry_ref* ref)
 status_t
 BDirectory::SetTo(const char* path)
 {
-	return path == nullptr ? Fail(B_BAD_VALUE) : Open(AT_FDCWD, path, kOpenDirectory);
+	return path == nullptr ? Fail(B_BAD_VALUE) : Open(AT_FDCWD, path, open_directory);
 }
 
 

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr uint32 kOpenModes = O_ACCMODE | O_CREAT | O_EXCL | O_TRUNC | O_APPEND;
+constexpr uint32 open_modes = O_ACCMODE | O_CREAT | O_EXCL | O_TRUNC | O_APPEND;
 
 
 // Repeats `step`, which moves bytes from the given offset on and answers like read(), until all is
@@ -207,7 +207,7 @@ status_t
 BFile::OpenFile(int from, const char* path, uint32 openMode)
 {
 	// Without O_NONBLOCK a named pipe would hold up the program until somebody opens its other end.
-	const uint32 flags = (openMode & kOpenModes) | O_NONBLOCK | O_NOCTTY;
+	const uint32 flags = (openMode & open_modes) | O_NONBLOCK | O_NOCTTY;
 	const status_t status = Open(from, path, static_cast<int>(flags));
 	if (status == B_OK && IsDirectory()) {
 		return Fail(B_IS_A_DIRECTORY);

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr mode_t kNewFileMode = 0666; // less what the user's mask takes away
+constexpr mode_t new_file_mode = 0666; // less what the user's mask takes away
 
 }
 
@@ -66,7 +66,7 @@ BNode::Open(int from, const char* path, int flags)
 {
 	Unset();
 	do {
-		fDescriptor = openat(from, path, flags | O_CLOEXEC, kNewFileMode);
+		fDescriptor = openat(from, path, flags | O_CLOEXEC, new_file_mode);
 	} while (fDescriptor < 0 && errno == EINTR);
 	return fStatus = fDescriptor < 0 ? status_of_errno(errno) : B_OK;
 }

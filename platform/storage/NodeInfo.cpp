@@ -12,7 +12,7 @@
 namespace {
 
 // Where the desktops of this system keep it, without a closing NUL.
-constexpr const char* kTypeAttribute = "user.mime_type";
+constexpr const char* type_attribute = "user.mime_type";
 
 }
 
@@ -35,13 +35,13 @@ BNodeInfo::SetType(const char* type)
 	}
 	const int descriptor = fNode->Descriptor();
 	if (type == nullptr) {
-		return fremovexattr(descriptor, kTypeAttribute) == 0 ? B_OK : status_of_errno(errno);
+		return fremovexattr(descriptor, type_attribute) == 0 ? B_OK : status_of_errno(errno);
 	}
 	const size_t length = strlen(type);
 	if (length >= B_MIME_TYPE_LENGTH) {
 		return B_BAD_VALUE;
 	}
-	return fsetxattr(descriptor, kTypeAttribute, type, length, 0) == 0 ? B_OK
+	return fsetxattr(descriptor, type_attribute, type, length, 0) == 0 ? B_OK
 																	   : status_of_errno(errno);
 }
 
@@ -56,7 +56,7 @@ BNodeInfo::GetType(char* type) const
 		return B_BAD_VALUE;
 	}
 	char value[B_MIME_TYPE_LENGTH] = {};
-	if (fgetxattr(fNode->Descriptor(), kTypeAttribute, value, sizeof(value) - 1) < 0) {
+	if (fgetxattr(fNode->Descriptor(), type_attribute, value, sizeof(value) - 1) < 0) {
 		return status_of_errno(errno);
 	}
 	strcpy(type, value);

@@ -16,11 +16,11 @@ namespace kits {
 namespace {
 
 // The most that the system hands out, of names and of a value.
-constexpr size_t kAttributeBytes = 65536;
+constexpr size_t attribute_bytes = 65536;
 
-constexpr const char* kAccessList = "system.posix_acl_access";
+constexpr const char* access_list = "system.posix_acl_access";
 
-constexpr mode_t kPermissions = 07777;
+constexpr mode_t permissions = 07777;
 
 
 // These vouch for the contents, which will be others.
@@ -47,9 +47,9 @@ void
 copy_attributes(int from, int to)
 {
 	// A new file takes the list that its folder keeps for new ones. The old one may have had none.
-	fremovexattr(to, kAccessList);
-	std::vector<char> names(kAttributeBytes);
-	std::vector<char> room(kAttributeBytes);
+	fremovexattr(to, access_list);
+	std::vector<char> names(attribute_bytes);
+	std::vector<char> room(attribute_bytes);
 	const ssize_t listed = flistxattr(from, names.data(), names.size());
 	const char* const end = names.data() + (listed < 0 ? 0 : listed);
 	for (const char* name = names.data(); name < end; name += strlen(name) + 1) {
@@ -64,7 +64,7 @@ copy_attributes(int from, int to)
 mode_t
 fitting_mode(const struct stat& old, const struct stat& made)
 {
-	mode_t mode = old.st_mode & kPermissions;
+	mode_t mode = old.st_mode & permissions;
 	if (made.st_uid != old.st_uid) {
 		mode &= ~static_cast<mode_t>(S_ISUID);
 	}
@@ -97,7 +97,7 @@ carry_over(int from, int to)
 	}
 	const mode_t mode = fitting_mode(old, made);
 	// Not every file system can change the mode, but there all files have the same.
-	if (mode == (made.st_mode & kPermissions)) {
+	if (mode == (made.st_mode & permissions)) {
 		return 0;
 	}
 	return fchmod(to, mode) == 0 ? 0 : errno;

@@ -18,11 +18,11 @@ namespace kits {
 
 namespace {
 
-constexpr int kNewFile = O_RDWR | O_CLOEXEC;
-constexpr mode_t kNobodyElse = 0600; // until the old file's mode is carried over
+constexpr int new_file = O_RDWR | O_CLOEXEC;
+constexpr mode_t nobody_else = 0600; // until the old file's mode is carried over
 
 // Names are drawn from 2^64: a second try is rare, more tell of another trouble.
-constexpr int kTries = 16;
+constexpr int tries = 16;
 
 
 // What other folders and files have no more of either. Any other error says that this folder takes
@@ -59,7 +59,7 @@ int
 with_free_name(Step step, std::string* name)
 {
 	int answer = -1;
-	for (int i = 0; i < kTries; i++) {
+	for (int i = 0; i < tries; i++) {
 		*name = random_name();
 		answer = step(name->c_str());
 		if (answer >= 0 || (errno != EEXIST && errno != EINTR)) {
@@ -192,7 +192,7 @@ int
 replacement::make(way first)
 {
 	if (first == NAMELESS) {
-		fDescriptor = openat(fFolder, ".", kNewFile | O_TMPFILE, kNobodyElse);
+		fDescriptor = openat(fFolder, ".", new_file | O_TMPFILE, nobody_else);
 		if (fDescriptor >= 0) {
 			return 0;
 		}
@@ -202,7 +202,7 @@ replacement::make(way first)
 	}
 	fDescriptor = with_free_name(
 		[&](const char* name) {
-			return openat(fFolder, name, kNewFile | O_CREAT | O_EXCL, kNobodyElse);
+			return openat(fFolder, name, new_file | O_CREAT | O_EXCL, nobody_else);
 		},
 		&fHidden);
 	if (fDescriptor >= 0) {

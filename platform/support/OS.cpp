@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr int64 kMicrosecondsPerSecond = 1000000;
-constexpr int64 kNanosecondsPerMicrosecond = 1000;
+constexpr int64 microseconds_per_second = 1000000;
+constexpr int64 nanoseconds_per_microsecond = 1000;
 
 }
 
@@ -27,8 +27,8 @@ snooze(bigtime_t microseconds)
 	const bigtime_t until =
 		microseconds < B_INFINITE_TIMEOUT - now ? now + microseconds : B_INFINITE_TIMEOUT;
 	timespec deadline = {};
-	deadline.tv_sec = until / kMicrosecondsPerSecond;
-	deadline.tv_nsec = until % kMicrosecondsPerSecond * kNanosecondsPerMicrosecond;
+	deadline.tv_sec = until / microseconds_per_second;
+	deadline.tv_nsec = until % microseconds_per_second * nanoseconds_per_microsecond;
 	while (clock_nanosleep(CLOCK_MONOTONIC, TIMER_ABSTIME, &deadline, nullptr) == EINTR) {
 	}
 	return B_OK;
@@ -36,13 +36,13 @@ snooze(bigtime_t microseconds)
 
 
 bigtime_t
-system_time(void)
+system_time()
 {
 	timespec now = {};
 	clock_gettime(CLOCK_MONOTONIC, &now);
 	// Rounded up: a sleep until a whole microsecond then never ends a part of one too early.
-	return now.tv_sec * kMicrosecondsPerSecond
-		+ (now.tv_nsec + kNanosecondsPerMicrosecond - 1) / kNanosecondsPerMicrosecond;
+	return now.tv_sec * microseconds_per_second
+		+ (now.tv_nsec + nanoseconds_per_microsecond - 1) / nanoseconds_per_microsecond;
 }
 
 

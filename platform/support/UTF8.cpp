@@ -175,6 +175,17 @@ check(const foreign_text& foreign, const passage& text)
 	return !empty && (!text.source || no_target) ? B_BAD_VALUE : B_OK;
 }
 
+
+template <typename Source, typename Target>
+status_t
+convert_checked(const foreign_text& foreign, const passage& text, Source& source, Target& target)
+{
+	status_t status = check(foreign, text);
+	if (status == B_OK)
+		convert(text, source, target);
+	return status;
+}
+
 }
 
 
@@ -182,13 +193,9 @@ status_t
 convert_to_utf8(uint32 srcEncoding, const char* src, int32* srcLen, char* dst, int32* dstLen,
 	int32*, char substitute)
 {
-	passage text{src, srcLen, dst, dstLen, substitute};
 	foreign_text source(srcEncoding);
 	utf8_text target;
-	status_t status = check(source, text);
-	if (status == B_OK)
-		convert(text, source, target);
-	return status;
+	return convert_checked(source, {src, srcLen, dst, dstLen, substitute}, source, target);
 }
 
 
@@ -196,11 +203,7 @@ status_t
 convert_from_utf8(uint32 dstEncoding, const char* src, int32* srcLen, char* dst, int32* dstLen,
 	int32*, char substitute)
 {
-	passage text{src, srcLen, dst, dstLen, substitute};
 	utf8_text source;
 	foreign_text target(dstEncoding);
-	status_t status = check(target, text);
-	if (status == B_OK)
-		convert(text, source, target);
-	return status;
+	return convert_checked(target, {src, srcLen, dst, dstLen, substitute}, source, target);
 }

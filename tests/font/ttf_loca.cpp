@@ -20,7 +20,7 @@ public:
 	{
 	}
 	explicit loca_table(std::string_view digits) : loca_table(hex(digits)) {}
-	octets padded() const { return octets(data, data + (length + 3) / 4 * 4); }
+	octets padded() const { return octets(data, data + ((size_t)length + 3) / 4 * 4); }
 };
 
 // What get_offset says of a glyph.

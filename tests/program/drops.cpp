@@ -16,9 +16,6 @@
 
 using tags = std::vector<std::string>;
 
-static const tags tiny_tags = {"cmap", "glyf", "head", "hhea", "hmtx", "loca", "maxp"};
-static const tags other_tags = {"name", "cmap", "head", "prep"};
-
 
 TEST(drops, of_a_font_on_the_work_view_open_it)
 {

@@ -9,6 +9,7 @@
 #include "font/globals.h"
 #include "font/ttf.h"
 #include "font/ttf_table.h"
+#include "support/temp_files.h"
 
 #include <AppDefs.h>
 #include <Entry.h>
@@ -18,6 +19,9 @@
 #include <sstream>
 #include <stdexcept>
 
+const std::vector<std::string> tiny_tags = {"cmap", "glyf", "head", "hhea", "hmtx", "loca", "maxp"};
+const std::vector<std::string> other_tags = {"name", "cmap", "head", "prep"};
+
 
 void
 journey(const std::function<void(kernix&, robot&)>& user)
@@ -25,6 +29,17 @@ journey(const std::function<void(kernix&, robot&)>& user)
 	with_application<kernix>(user);
 	delete curttf;
 	curttf = nullptr;
+}
+
+
+void
+with_font(const std::function<void(kernix&, robot&)>& user)
+{
+	temp_file font(tiny_font());
+	journey([&](kernix& app, robot& hand) {
+		open_file(hand, font.path());
+		user(app, hand);
+	});
 }
 
 
@@ -194,6 +209,24 @@ panel_of(kernix& app, const std::string& tag)
 				found = table;
 		}
 	});
+	return found;
+}
+
+
+bool
+holds_an_empty_font(kernix& app)
+{
+	bool found = false;
+	looking(app, [&] { found = curttf != nullptr && curttf->empty(); });
+	return found;
+}
+
+
+BRect
+shown_canvas(kernix& app)
+{
+	BRect found;
+	looking(app, [&] { found = canvas; });
 	return found;
 }
 

@@ -18,6 +18,8 @@ class kernix;
 
 // Runs the program for its user; afterwards destroys the font that the program leaves open.
 void journey(const std::function<void(kernix&, robot&)>& user);
+// The same with tiny_font() open.
+void with_font(const std::function<void(kernix&, robot&)>& user);
 
 // Looks at what belongs to the window's thread, with the window locked.
 void looking(kernix& app, const std::function<void()>& look);
@@ -42,6 +44,11 @@ std::string highlighted(kernix& app);
 std::vector<std::string> panels_shown(kernix& app);
 BView* panel_of(kernix& app, const std::string& tag);
 
+// The program holds a font without any table.
+bool holds_an_empty_font(kernix& app);
+// The canvas as the window's thread sees it.
+BRect shown_canvas(kernix& app);
+
 // What the scroll bars range over, how long their thumbs are and how far they step, as lines like
 // "0 to 173, 0.5, 5 and 385".
 std::string bar(kernix& app, orientation posture);
@@ -54,6 +61,9 @@ BRect cell_of_tag(int index);
 
 // A font of other tables than tiny_font(), in an order of its own: name, cmap, head, prep.
 font_file other_font();
+// Their tables in the order of the directory.
+extern const std::vector<std::string> tiny_tags;
+extern const std::vector<std::string> other_tags;
 
 // What the program prints.
 std::string printed_by(const std::function<void()>& work);

@@ -17,8 +17,6 @@
 
 using tags = std::vector<std::string>;
 
-static const tags tiny_tags = {"cmap", "glyf", "head", "hhea", "hmtx", "loca", "maxp"};
-
 
 TEST(panels, open_comes_up_from_the_menu)
 {

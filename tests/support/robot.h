@@ -122,6 +122,8 @@ public:
 
 private:
 	QWidget* _Window();
+	// Waits for the work, which is done as an event of the display's own.
+	void _Act(const std::function<void()>& work);
 	void _Key(bool down, int key, const std::string& text, int32 modifiers);
 	void _Pen(int type, BPoint where, const pen& held);
 	void _Pointer(int type, BPoint where, int32 button, int32 modifiers);

@@ -1,14 +1,17 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 
-// The user's hand on lists, check boxes and menu fields.
+// The user's hand on menus, scroll bars, lists and other controls.
 #include "display/menu_widgets.h"
 #include "support/robot.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QWindow>
 
 using namespace kits;
@@ -83,6 +86,32 @@ choose_from_popup(const std::string& item)
 	}
 	menu->close();
 	return false;
+}
+
+
+// Lists have bars that nobody sees.
+bool
+is_meant(const QScrollBar& bar, orientation posture)
+{
+	return bar.isVisible() && (bar.orientation() == Qt::Vertical) == (posture == B_VERTICAL);
+}
+
+
+QAction*
+find_item(const QWidget* window, const std::string& menu, const std::string& item)
+{
+	const auto* bar = window ? window->findChild<QMenuBar*>() : nullptr;
+	if (!bar)
+		return nullptr;
+	for (QAction* top : bar->actions()) {
+		if (top->text().toStdString() != menu || !top->menu())
+			continue;
+		for (QAction* action : top->menu()->actions()) {
+			if (action->text().toStdString() == item)
+				return action;
+		}
+	}
+	return nullptr;
 }
 
 }
@@ -199,4 +228,100 @@ robot::choose_menu_field(BPoint where, const std::string& item)
 	act([&](QWidget&) { found = choose_from_popup(item); });
 	settle();
 	return found;
+}
+
+
+std::string
+robot::field_text(BPoint where)
+{
+	std::string text;
+	on_display([&] {
+		QWidget* found = _Window()->childAt((int)where.x, (int)where.y);
+		if (auto* line = dynamic_cast<QLineEdit*>(found))
+			text = line->text().toStdString();
+	});
+	return text;
+}
+
+
+bool
+robot::has_keyboard(BPoint where)
+{
+	bool has = false;
+	on_display([&] {
+		QWidget* found = _Window()->childAt((int)where.x, (int)where.y);
+		// The face of a list is a part of it.
+		while (found && found->focusProxy())
+			found = found->focusProxy();
+		has = found && _Window()->focusWidget() == found;
+	});
+	return has;
+}
+
+
+std::string
+robot::tooltip(BPoint where)
+{
+	std::string text;
+	on_display([&] {
+		if (QWidget* found = _Window()->childAt((int)where.x, (int)where.y))
+			text = found->toolTip().toStdString();
+	});
+	return text;
+}
+
+
+bool
+robot::choose_menu(const std::string& menu, const std::string& item)
+{
+	bool found = false;
+	settle();
+	_Act([&] {
+		QAction* action = find_item(_Window(), menu, item);
+		found = action && action->isEnabled();
+		if (found)
+			action->trigger();
+	});
+	settle();
+	return found;
+}
+
+
+bool
+robot::menu_is_marked(const std::string& menu, const std::string& item)
+{
+	bool marked = false;
+	on_display([&] {
+		QAction* action = find_item(_Window(), menu, item);
+		marked = action && action->isChecked();
+	});
+	return marked;
+}
+
+
+std::vector<int>
+robot::scroll_bar(orientation posture)
+{
+	std::vector<int> values;
+	on_display([&] {
+		for (QScrollBar* bar : _Window()->findChildren<QScrollBar*>()) {
+			if (is_meant(*bar, posture))
+				values = {bar->minimum(), bar->maximum(), bar->value(), bar->pageStep()};
+		}
+	});
+	return values;
+}
+
+
+void
+robot::drag_scroll_bar(orientation posture, int value)
+{
+	settle();
+	_Act([&] {
+		for (QScrollBar* bar : _Window()->findChildren<QScrollBar*>()) {
+			if (is_meant(*bar, posture))
+				bar->setValue(value);
+		}
+	});
+	settle();
 }

@@ -2,25 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 // When the kit asks views to draw, and what becomes of what they have drawn.
-#include "platform/interface/stage.h"
+#include "platform/interface/patch.h"
 
 #include <gtest/gtest.h>
-
-namespace {
-
-// A view of 8 x 3 pixels at the window's left top, and what the user sees there.
-constexpr BRect patch(0, 0, 7, 2);
-
-test_view&
-add_patch(test_window& window, rgb_color background = white)
-{
-	auto* view = new test_view(patch, "patch");
-	view->SetViewColor(background);
-	window.AddChild(view);
-	return *view;
-}
-
-}
 
 
 TEST(view_updates, a_view_that_appears_is_erased_and_drawn_whole)
@@ -323,81 +307,6 @@ TEST(view_updates, what_draw_invalidates_is_drawn_in_a_later_turn)
 		window.locked([&] {
 			EXPECT_EQ(view.draws, (std::vector<BRect>{patch, BRect(0, 0, 1, 1)}));
 		});
-	});
-}
-
-
-TEST(view_updates, a_hidden_view_is_not_asked_to_draw_until_it_is_shown)
-{
-	with_window([](test_window& window, robot& user) {
-		test_view& view = add_patch(window, red);
-		user.settle();
-		window.locked([&] {
-			view.Hide();
-			view.draws.clear();
-			view.Invalidate();
-		});
-		EXPECT_NE(user.pixel(BPoint(0, 0)), red);
-		window.locked([&] {
-			EXPECT_EQ(view.draws, std::vector<BRect>{});
-			view.Show();
-		});
-		EXPECT_EQ(user.pixel(BPoint(0, 0)), red);
-		window.locked([&] { EXPECT_EQ(view.draws, std::vector<BRect>{patch}); });
-	});
-}
-
-
-TEST(view_updates, a_view_in_a_hidden_one_is_drawn_when_that_is_shown)
-{
-	with_window([](test_window& window, robot& user) {
-		test_view& parent = add_patch(window);
-		auto* child = new test_view(BRect(0, 0, 1, 1));
-		window.locked([&] {
-			parent.Hide();
-			parent.AddChild(child);
-		});
-		user.settle();
-		window.locked([&] {
-			EXPECT_EQ(child->draws, std::vector<BRect>{});
-			parent.Show();
-		});
-		user.settle();
-		window.locked([&] { EXPECT_EQ(child->draws, std::vector<BRect>{BRect(0, 0, 1, 1)}); });
-	});
-}
-
-
-TEST(view_updates, drawing_in_a_hidden_view_is_lost)
-{
-	with_window([](test_window& window, robot& user) {
-		test_view& view = add_patch(window);
-		user.settle();
-		window.locked([&] {
-			view.Hide();
-			view.FillRect(patch);
-			view.Show();
-		});
-		EXPECT_EQ(user.pixel(BPoint(0, 0)), white);
-	});
-}
-
-
-TEST(view_updates, nothing_is_drawn_for_a_window_that_is_not_shown)
-{
-	with_window([](test_window& window, robot& user) {
-		test_view& view = add_patch(window);
-		user.settle();
-		window.Hide();
-		window.locked([&] {
-			view.draws.clear();
-			view.Invalidate();
-		});
-		user.settle();
-		window.locked([&] { EXPECT_EQ(view.draws, std::vector<BRect>{}); });
-		window.Show();
-		user.settle();
-		window.locked([&] { EXPECT_EQ(view.draws, std::vector<BRect>{patch}); });
 	});
 }
 

@@ -24,8 +24,8 @@
 
 namespace {
 
-constexpr int kRounds = 40;
-constexpr size_t kPiece = 80;
+constexpr int rounds = 40;
+constexpr size_t piece_bytes = 80;
 
 const std::string texts[] = {std::string(8000, 'a'), std::string(12000, 'b')};
 
@@ -41,8 +41,8 @@ is_whole(const std::string& contents)
 void
 in_pieces(const std::string& text, const std::function<void(const char*, size_t)>& write)
 {
-	for (size_t place = 0; place < text.size(); place += kPiece) {
-		write(text.data() + place, kPiece);
+	for (size_t place = 0; place < text.size(); place += piece_bytes) {
+		write(text.data() + place, piece_bytes);
 	}
 }
 
@@ -102,7 +102,7 @@ seen_after_kills(const std::string& path, const std::function<void(const std::st
 	std::set<std::string> seen;
 	std::mt19937 random(8);
 	std::uniform_int_distribution<int> lives(500, 6000);
-	for (int round = 0; round < kRounds; round++) {
+	for (int round = 0; round < rounds; round++) {
 		save_until_killed(round, std::chrono::microseconds(lives(random)), save);
 		const std::string contents = stored(path);
 		EXPECT_TRUE(is_whole(contents)) << contents.size() << " bytes in round " << round;

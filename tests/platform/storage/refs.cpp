@@ -33,13 +33,13 @@ private:
 };
 
 
-constexpr int kManyFolders = 100;
+constexpr int many_folders = 100;
 
 
 void
 make_many_folders(const temp_folder& folder)
 {
-	for (int i = 0; i < kManyFolders; i++) {
+	for (int i = 0; i < many_folders; i++) {
 		make_folder(folder.path(std::to_string(i)));
 		store(folder.path(std::to_string(i) + "/file"), "contents");
 	}
@@ -51,7 +51,7 @@ bool
 follow_many_refs(const temp_folder& folder)
 {
 	int good = 0;
-	for (int i = 0; i < kManyFolders; i++) {
+	for (int i = 0; i < many_folders; i++) {
 		const std::string path = folder.path(std::to_string(i) + "/file");
 		entry_ref ref;
 		if (get_ref_for_path(path.c_str(), &ref) == B_OK) {
@@ -59,7 +59,7 @@ follow_many_refs(const temp_folder& folder)
 			good += BEntry(&copy).IsFile() ? 1 : 0;
 		}
 	}
-	return good == kManyFolders;
+	return good == many_folders;
 }
 
 }

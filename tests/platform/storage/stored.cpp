@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr uid_t kNobody = 65534;
+constexpr uid_t nobody = 65534;
 
 }
 
@@ -57,7 +57,7 @@ make_folder(const std::string& path)
 plain_user::plain_user() : fBefore(geteuid())
 {
 	// Whether it worked, plain() tells.
-	[[maybe_unused]] const bool given_up = fBefore != 0 || seteuid(kNobody) == 0;
+	[[maybe_unused]] const bool given_up = fBefore != 0 || seteuid(nobody) == 0;
 }
 
 
