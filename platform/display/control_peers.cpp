@@ -25,11 +25,13 @@ page_of(const scroll_bar_look& look)
 }
 
 
-// Clicks beside the thumb move by the kit's large step, whatever the thumb's length says.
+// Clicks beside the thumb move by the kit's large step, whatever the thumb's length says. No menu
+// comes up: the toolkit's own is not the kit's, and would hold up the display in a loop of its own.
 class scroll_bar_widget : public QScrollBar {
 public:
 	scroll_bar_widget(Qt::Orientation posture, QWidget* parent) : QScrollBar(posture, parent)
 	{
+		setContextMenuPolicy(Qt::PreventContextMenu);
 		connect(this, &QScrollBar::actionTriggered, [this](int action) {
 			if (action == SliderPageStepAdd)
 				setSliderPosition(value() + fLargeStep);

@@ -179,3 +179,16 @@ TEST(scroll_bar_use, a_bar_grows_with_its_window)
 		window.locked([&] { EXPECT_EQ(of.bar->Frame(), BRect(130, 0, 143, 139)); });
 	});
 }
+
+
+TEST(scroll_bar_use, the_secondary_button_brings_no_menu)
+{
+	with_window([](test_window& window, robot& user) {
+		add_scrolled_view(window);
+		user.click(BPoint(106, 50), B_SECONDARY_MOUSE_BUTTON);
+		bool open = true;
+		user.on_display([&] { open = QApplication::activePopupWidget() != nullptr; });
+		EXPECT_FALSE(open);
+		EXPECT_EQ(user.scroll_bar(B_VERTICAL), (std::vector<int>{0, 300, 0, 100}));
+	});
+}
