@@ -92,10 +92,10 @@ shape*
 shape::transcopy(short dx, short dy, short a, short b, short c, short d) const
 {
 	const int one = 16384;
-	const float xx = (float)(a / one);
-	const float xy = (float)(b / one);
-	const float yx = (float)(c / one);
-	const float yy = (float)(d / one);
+	const int xx = a / one;
+	const int xy = b / one;
+	const int yx = c / one;
+	const int yy = d / one;
 	shape* other = new shape(num);
 	for (int32 i = 0; i < num; i++) {
 		const BPoint p = pts[i];
