@@ -6,6 +6,7 @@
 #include "bitmaps/bitmap.h"
 #include "bitmaps/ttf_ebdt.h"
 #include "bitmaps/ttf_eblc.h"
+#include "font/glyph_places.h"
 #include "font/ttf.h"
 #include "font/ttf_head.h"
 #include "font/ttf_loca.h"
@@ -32,15 +33,7 @@ ttf::unitsperem() const
 bool
 ttf::find_glyph(int index, uint32* offset, uint32* size) const
 {
-	if (index < 0 || (uint32)index >= numglyphs() || loca == nullptr || head == nullptr)
-		return false;
-	unsigned long place;
-	unsigned long length;
-	if (loca->get_offset(head->is32loca(), index, &place, &length) != 0)
-		return false;
-	*offset = (uint32)place;
-	*size = (uint32)length;
-	return true;
+	return glyph_places(*this).find(index, offset, size);
 }
 
 

@@ -3,7 +3,7 @@
 
 // Statistics of glyf records.
 #include "font/cursor.h"
-#include "font/ttf.h"
+#include "font/glyph_places.h"
 #include "outline/glyf_record.h"
 #include "outline/ttf_glyf.h"
 #include <algorithm>
@@ -16,6 +16,9 @@ static const uint16 not_known = 0xFFFF;
 
 // What one call has found out, and the way down to the record at hand.
 struct ttf_glyf::survey {
+	explicit survey(const ttf& font) : places(font) {}
+
+	const glyph_places places;
 	std::vector<glyph_info> known; // by glyph; empty when nothing is kept
 	std::vector<uint16> path;
 	uint32 visits = 0;
@@ -26,7 +29,7 @@ int
 ttf_glyf::get_info(unsigned short index, unsigned short* depth, unsigned short* components,
 	unsigned short* contours, unsigned short* points)
 {
-	survey notes;
+	survey notes(*owner);
 	glyph_info info = info_of(index, notes);
 	*depth = info.depth;
 	*components = info.components;
@@ -39,7 +42,7 @@ ttf_glyf::get_info(unsigned short index, unsigned short* depth, unsigned short* 
 std::vector<glyph_info>
 ttf_glyf::all_info(uint32 count) const
 {
-	survey notes;
+	survey notes(*owner);
 	notes.known.resize(count, {not_known, 0, 0, 0});
 	for (uint32 i = 0; i < count; i++) {
 		notes.visits = 0;
@@ -61,7 +64,7 @@ ttf_glyf::info_of(uint16 index, survey& notes) const
 		return info;
 	uint32 offset;
 	uint32 size;
-	if (owner->find_glyph(index, &offset, &size) && size != 0)
+	if (notes.places.find(index, &offset, &size) && size != 0)
 		info = record_info(index, offset, notes);
 	if (kept)
 		notes.known[index] = info;
