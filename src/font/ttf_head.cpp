@@ -26,6 +26,7 @@ enum {
 	at_ymax = 42,
 	at_lowestppem = 46,
 	at_direction = 48,
+	at_locformat = 50
 };
 
 enum { head_length = 54 };
@@ -178,6 +179,13 @@ ttf_head::setsum(unsigned long s)
 {
 	// Swapped once here, once by put32: the bytes end up in host order.
 	put32(at_adjustment, B_HOST_TO_BENDIAN_INT32(balance - (uint32)s));
+}
+
+
+bool
+ttf_head::is32loca() const
+{
+	return u16(at_locformat) == 1;
 }
 
 

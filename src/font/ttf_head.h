@@ -42,7 +42,7 @@ public:
 	void setsum(unsigned long s);
 
 	// Whether loca holds 32-bit offsets: the format is 1; every other value means 16-bit ones.
-	bool is32loca() const { return u16(at_locformat) == 1; }
+	bool is32loca() const;
 
 	unsigned short unitsperem() const;
 
@@ -51,8 +51,6 @@ public:
 	BRect bounds() const;
 
 private:
-	enum { at_locformat = 50 };
-
 	std::string date_text(uint64 seconds) const;
 	void edit();
 

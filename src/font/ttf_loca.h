@@ -37,7 +37,7 @@ private:
 };
 
 
-// Inline, as what it needs of head and maxp is: a save looks every glyph up.
+// Inline: a save looks every glyph up.
 inline int
 ttf_loca::get_offset(bool is32, int index, unsigned long* offset, unsigned long* size) const
 {

@@ -14,6 +14,7 @@
 // Byte offsets of the fields used here.
 enum {
 	at_version = 0,
+	at_numglyphs = 4,
 	at_points = 6,
 	at_contours = 8,
 	at_composite_points = 10,
@@ -141,4 +142,11 @@ ttf_maxp::edit()
 		put16(at_stack, (uint16)elements);
 	}
 	Draw(Bounds());
+}
+
+
+unsigned short
+ttf_maxp::numglyphs() const
+{
+	return u16(at_numglyphs);
 }

@@ -30,11 +30,9 @@ public:
 	void update();
 
 	// The number of glyphs in the font.
-	unsigned short numglyphs() const { return u16(at_numglyphs); }
+	unsigned short numglyphs() const;
 
 private:
-	enum { at_numglyphs = 4 };
-
 	void edit();
 
 	BTextControl* maxstackelements; // the panel's child; null until it is attached
