@@ -55,9 +55,20 @@ front_image::front_image() = default;
 front_image::~front_image() = default;
 
 
+// Inverting twice restores each pixel in this format.
+static constexpr auto format = QImage::Format_RGB32;
+
+
+// The device pixels that a length needs.
+static int
+device_pixels(int32 length, float ratio)
+{
+	return (int)std::ceil((float)length * ratio);
+}
+
+
 canvas::canvas(int32 width, int32 height, float ratio)
-	: fImage(new QImage((int)std::ceil((float)width * ratio), (int)std::ceil((float)height * ratio),
-		QImage::Format_RGB32)),
+	: fImage(new QImage(device_pixels(width, ratio), device_pixels(height, ratio), format)),
 	  fWidth(width),
 	  fHeight(height),
 	  fRatio(ratio)
@@ -66,8 +77,7 @@ canvas::canvas(int32 width, int32 height, float ratio)
 
 
 canvas::canvas(void* bits, int32 width, int32 height, int32 bytesPerRow)
-	: fImage(
-		new QImage(static_cast<uchar*>(bits), width, height, bytesPerRow, QImage::Format_RGB32)),
+	: fImage(new QImage(static_cast<uchar*>(bits), width, height, bytesPerRow, format)),
 	  fWidth(width),
 	  fHeight(height),
 	  fRatio(1)
@@ -165,7 +175,11 @@ kits::text_height(const BFont& font)
 {
 	if (!display::running())
 		return {std::ceil(font.Size()), std::ceil(font.Size() / 4), 0};
-	QFontMetricsF metrics(screen_font(font.Size(), font.Face() & B_BOLD_FACE));
+	// Hinted, the height is rounded by one release of the toolkit and left alone by another. The
+	// layouts count on one height, so they take the face's own.
+	QFont face = screen_font(font.Size(), font.Face() & B_BOLD_FACE);
+	face.setHintingPreference(QFont::PreferNoHinting);
+	QFontMetricsF metrics(face);
 	return {(float)std::ceil(metrics.ascent()), (float)std::ceil(metrics.descent()),
 		(float)std::ceil(std::max(0.0, metrics.leading()))};
 }

@@ -13,12 +13,19 @@
 using namespace kits;
 
 
+// A bar keeps to its edge of the window and grows along it.
+static uint32
+resizing_of(orientation posture)
+{
+	if (posture == B_VERTICAL)
+		return B_FOLLOW_RIGHT | B_FOLLOW_TOP_BOTTOM;
+	return B_FOLLOW_BOTTOM | B_FOLLOW_LEFT_RIGHT;
+}
+
+
 BScrollBar::BScrollBar(
 	BRect frame, const char* name, BView* target, float min, float max, orientation posture)
-	: BView(frame, name,
-		posture == B_VERTICAL ? B_FOLLOW_RIGHT | B_FOLLOW_TOP_BOTTOM
-							  : B_FOLLOW_BOTTOM | B_FOLLOW_LEFT_RIGHT,
-		B_WILL_DRAW),
+	: BView(frame, name, resizing_of(posture), B_WILL_DRAW),
 	  fTarget(nullptr),
 	  fMin(0),
 	  fMax(0),

@@ -36,5 +36,5 @@ obj_ellipse::to_shape()
 	for (int i = 0; i < 8; i++)
 		contour->set(i, centre + BPoint(octagon[i].x * half.x, octagon[i].y * half.y), 1);
 	contour->ctrlp2form();
-	return new shape* [2] { contour, nullptr };
+	return contour_list(contour);
 }

@@ -155,9 +155,9 @@ obj_free::to_shape()
 	const int pen = width / 2;
 	const stretch area = num > 0 ? reached(pts, num, pen) : stretch{};
 	if (area.columns < 1 || area.rows < 1 || area.pixels() > most_pixels)
-		return new shape* [1] { nullptr };
+		return contour_list(nullptr);
 	ink_grid ink(area.columns, area.rows);
 	if (!draw_ink(ink, area, pts, num, pen))
-		return new shape* [1] { nullptr };
+		return contour_list(nullptr);
 	return trace(ink, area.left, area.top);
 }

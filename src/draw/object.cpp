@@ -64,5 +64,15 @@ object::as_contour(char f) const
 	for (int i = 0; i < num; i++)
 		contour->set(i, pts[i], f);
 	contour->ctrlp2form();
-	return new shape* [2] { contour, nullptr };
+	return contour_list(contour);
+}
+
+
+shape**
+contour_list(shape* contour)
+{
+	shape** list = new shape*[2];
+	list[0] = contour;
+	list[1] = nullptr;
+	return list;
 }

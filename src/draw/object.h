@@ -61,6 +61,10 @@ protected:
 	shape** as_contour(char f) const;
 };
 
+// An array of this contour and a null, or with a null contour of a null alone. The caller owns
+// both.
+shape** contour_list(shape* contour);
+
 // A tool dragged from corner to corner. The points are the corners: the start, then (present x,
 // start y), the present one, (start x, present y). state is 1 while the button is held.
 class object_r : public object {

@@ -145,7 +145,7 @@ trace(const ink_grid& ink, int32 left, int32 top)
 {
 	const BPoint corner(2 * (float)left, 2 * (float)top);
 	crack_map cracks(ink);
-	shape** contours = new shape* [most_contours + 1] {};
+	shape** contours = new shape*[most_contours + 1]();
 	std::vector<uint32> path;
 	int64 start = cracks.first_from(0);
 	for (int32 i = 0; i < most_contours && start >= 0; i++) {

@@ -226,8 +226,9 @@ glyftoolview::learn(const BMessage* message)
 	}
 	if (message->FindInt16("chr", &number) == B_OK)
 		chr = number;
-	for (int32 i = 0; compo_count < max_compos && message->FindInt16("compo", i, &number) == B_OK;
-		 i++) {
+	for (int32 i = 0; compo_count < max_compos; i++) {
+		if (message->FindInt16("compo", i, &number) != B_OK)
+			break;
 		compo[compo_count++] = number;
 		composite = 1;
 	}

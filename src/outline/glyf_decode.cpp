@@ -74,10 +74,13 @@ struct step_form {
 static constexpr step_form step_forms[4] = {{0, 1, 2}, {0, 0, 0}, {-1, 0, 1}, {1, 0, 1}};
 
 
+using coordinate_of = float BPoint::*;
+
+
 // The coordinates of one axis, as sums of the steps, into places that are there; gives how many
 // could be read before the bytes end.
 static uint32
-read_axis(cursor& record, const std::vector<uint8>& flags, axis a, float BPoint::*coordinate,
+read_axis(cursor& record, const std::vector<uint8>& flags, axis a, coordinate_of coordinate,
 	BPoint* places)
 {
 	if (record.failed())

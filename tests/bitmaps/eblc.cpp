@@ -213,9 +213,9 @@ TEST(eblc_hostile, stays_inside_wherever_the_tables_are_cut)
 		tables.size(16, 16).images(1, format, 7, {square, square});
 		for (size_t cut = 0; cut <= tables.eblc().size() + tables.ebdt().size(); cut++) {
 			size_t places = std::min(cut, tables.eblc().size());
-			auto font = opened(font_for_strikes()
-								   .with("EBLC", part(tables.eblc(), 0, places))
-								   .with("EBDT", part(tables.ebdt(), 0, cut - places)));
+			const octets eblc = part(tables.eblc(), 0, places);
+			const octets ebdt = part(tables.ebdt(), 0, cut - places);
+			auto font = opened(font_for_strikes().with("EBLC", eblc).with("EBDT", ebdt));
 			for (int glyph = 0; glyph < 5; glyph++) {
 				for (int size : {0, 12, 16}) {
 					int answer = 0;

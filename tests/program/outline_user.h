@@ -59,10 +59,10 @@ public:
 	// The selection of each item, in order.
 	std::string selection();
 	// What the view says of itself, with the window locked.
-	template <typename Field>
-	Field edit(Field glyfeditview::*field)
+	template <typename Member>
+	auto edit(Member field)
 	{
-		Field value{};
+		std::decay_t<decltype(view().*field)> value{};
 		looking(app, [&] { value = view().*field; });
 		return value;
 	}

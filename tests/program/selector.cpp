@@ -63,10 +63,9 @@ TEST(selector, writes_each_tag_thirty_pixels_from_the_last)
 TEST(selector, writes_the_tags_on_row_thirty)
 {
 	// The only one whose letters all stand on the line.
-	temp_file font(font_file()
-					   .with("cmap", tiny_font().table("cmap"))
-					   .with("head", tiny_font().table("head"))
-					   .ordered({"head", "cmap"}));
+	const font_file tiny = tiny_font();
+	const font_file two = font_file().with("cmap", tiny.table("cmap"));
+	temp_file font(two.with("head", tiny.table("head")).ordered({"head", "cmap"}));
 	journey([&](kernix&, robot& user) {
 		open_file(user, font.path());
 		EXPECT_GT(user.count(BRect(10, 49, 38, 49), paper), 0);

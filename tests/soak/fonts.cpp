@@ -21,10 +21,12 @@ enum { real_ones = 12 };
 
 
 fonts::fonts()
-	: fGood{tiny_font(), other_font(), outlines(), wide_outlines(), five_glyphs(),
-		font_of(two_sizes()), two_sizes().in(outlines()), expected_font({0, 1}),
-		tiny_font().with("prep", zeros(100'000))}
 {
+	fGood = {tiny_font(), other_font(), outlines(), wide_outlines(), five_glyphs()};
+	fGood.push_back(font_of(two_sizes()));
+	fGood.push_back(two_sizes().in(outlines()));
+	fGood.push_back(expected_font({0, 1}));
+	fGood.push_back(tiny_font().with("prep", zeros(100'000)));
 	for (const char* leaf : {"DejaVuSans.ttf", "DejaVuSansMono-Bold.ttf"}) {
 		const std::string path = installed_font(leaf);
 		if (!path.empty())

@@ -133,8 +133,10 @@ soak(const orders& given, const std::string& log)
 	memory used;
 	totals sum;
 	dice seeds(given.seed);
-	for (int number = 0; given.session >= 0 ? number <= given.session : clock::now() < end;
-		 number++) {
+	auto more = [&](int number) {
+		return given.session >= 0 ? number <= given.session : clock::now() < end;
+	};
+	for (int number = 0; more(number); number++) {
 		const uint64_t seed = seeds.seed();
 		if (given.session >= 0 && number < given.session)
 			continue;

@@ -71,6 +71,20 @@ click_at(QWidget& window, QPointF place)
 }
 
 
+// A hand gets to a place by several moves. A press on a menu to which the pointer has not moved
+// closes the menu.
+void
+reach(QWidget& window, QPointF place)
+{
+	for (int step = 8; step > 0; step--) {
+		const QPointF there = place + QPointF(step, 0);
+		QMouseEvent event(QEvent::MouseMove, there, there,
+			window.windowHandle()->mapToGlobal(there), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+		QCoreApplication::sendEvent(window.windowHandle(), &event);
+	}
+}
+
+
 // Chooses from the menu that is open, or closes it.
 bool
 choose_from_popup(const std::string& item)
@@ -80,7 +94,9 @@ choose_from_popup(const std::string& item)
 		return false;
 	for (QAction* action : menu->actions()) {
 		if (label_of(action->text()) == item && action->isEnabled()) {
-			click_at(*menu, menu->actionGeometry(action).center());
+			const QPoint place = menu->actionGeometry(action).center();
+			reach(*menu, place);
+			click_at(*menu, place);
 			return true;
 		}
 	}

@@ -48,13 +48,14 @@ to_qt_modifiers(int32 modifiers)
 }
 
 
-// Who uses a window has made it the active one. A display server without a keyboard of its own never
-// does.
+// A user works in the active window. The display server's answer arrives before this returns.
 void
 activate(QWidget* window)
 {
-	if (QApplication::activeWindow() == nullptr)
-		QApplication::setActiveWindow(window);
+	if (QApplication::activeWindow() != nullptr)
+		return;
+	window->activateWindow();
+	QGuiApplication::sync();
 }
 
 }

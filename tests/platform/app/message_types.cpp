@@ -11,7 +11,9 @@
 
 namespace {
 
-// The calls of one type, two values of it and its code.
+// The calls of one type, two values of it and its code. The releases of the formatter lay
+// functions in a macro out differently.
+// clang-format off
 #define FIELD_TYPE(Name, T, Code, First, Second)                                                   \
 	struct Name##_field {                                                                          \
 		using type = T;                                                                            \
@@ -32,6 +34,7 @@ namespace {
 		static T found(const BMessage& m) { return m.Find##Name("field"); }                        \
 		static T found(const BMessage& m, int32 i) { return m.Find##Name("field", i); }            \
 	}
+// clang-format on
 
 FIELD_TYPE(Int8, int8, 'BYTE', -128, 127);
 FIELD_TYPE(Int16, int16, 'SHRT', -32768, 32767);

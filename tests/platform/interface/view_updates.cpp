@@ -304,9 +304,8 @@ TEST(view_updates, what_draw_invalidates_is_drawn_in_a_later_turn)
 			view.Invalidate();
 		});
 		user.settle();
-		window.locked([&] {
-			EXPECT_EQ(view.draws, (std::vector<BRect>{patch, BRect(0, 0, 1, 1)}));
-		});
+		const std::vector<BRect> twice{patch, BRect(0, 0, 1, 1)};
+		window.locked([&] { EXPECT_EQ(view.draws, twice); });
 	});
 }
 
