@@ -6,7 +6,9 @@
 #include <GraphicsDefs.h>
 #include <QColor>
 #include <QRect>
+#include <QString>
 #include <Rect.h>
+#include <string>
 
 // Between the kits' types and Qt's; nothing else mixes the two.
 namespace kits {
@@ -20,6 +22,12 @@ to_qcolor(rgb_color color)
 {
 	return QColor(color.red, color.green, color.blue);
 }
+
+// The kits' texts are UTF-8. Each byte that is not becomes half a surrogate pair, DC80 to DCFF, which
+// the screen shows as a replacement mark and which turns back into that byte. Text of Qt's that is
+// neither becomes the replacement character.
+QString to_qstring(const std::string& text);
+std::string to_bytes(const QString& text);
 
 }
 

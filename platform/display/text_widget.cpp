@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/text_widget.h"
 
+#include "display/convert.h"
 #include "display/field_peers.h"
 #include "display/focus.h"
 #include "display/input.h"
@@ -15,6 +16,15 @@
 using namespace kits;
 
 
+namespace {
+
+// Characters; the toolkit's own limit would cut longer texts off at the first key. The pixels of a
+// line of so many can still be counted.
+constexpr int longest_text = 1 << 20;
+
+}
+
+
 line_widget::line_widget(QWidget* parent, report_address report)
 	: QLineEdit(parent),
 	  fReport(report)
@@ -23,6 +33,7 @@ line_widget::line_widget(QWidget* parent, report_address report)
 	setAcceptDrops(false);
 	setAttribute(Qt::WA_NoMousePropagation);
 	setTextMargins(1, 0, 1, 0);
+	setMaxLength(longest_text);
 	connect(this, &QLineEdit::textEdited, [this] { _Report(field_edited); });
 	connect(this, &QLineEdit::returnPressed, [this] {
 		_Report(field_entered);
@@ -36,8 +47,11 @@ line_widget::set_text(const QString& text, int32 serial)
 {
 	fSerial = serial;
 	setText(text);
+	// The beginning of a long text tells more than its end.
 	if (hasFocus())
 		selectAll();
+	else
+		setCursorPosition(0);
 }
 
 
@@ -45,7 +59,7 @@ void
 line_widget::_Report(uint32 what)
 {
 	BMessage message(what);
-	message.AddString("text", text().toUtf8().constData());
+	message.AddString("text", to_bytes(text()).c_str());
 	message.AddInt32("serial", fSerial);
 	post_to(fReport.looper, fReport.handler, message);
 }
@@ -143,7 +157,7 @@ text_widget::set(const control_look& look, float divider)
 void
 text_widget::set_text(const std::string& text, int32 serial)
 {
-	fLine->set_text(QString::fromStdString(text), serial);
+	fLine->set_text(to_qstring(text), serial);
 	_Fit();
 }
 

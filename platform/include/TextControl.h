@@ -8,6 +8,10 @@
 // A label and one line of text that the user edits. The message goes out on Enter and when the
 // field loses the keyboard, in both cases only if the text differs from what it was when it was last
 // sent, set by the program, or found as the field got the keyboard. Never per key.
+//
+// Bytes that are not UTF-8 show as a mark each and stay what they are, in the text and when they are
+// copied to another field. A text that the program sets shows its beginning until the user is in the
+// field.
 class BTextControl : public BControl {
 public:
 	// The height becomes that of a line of text; the width is kept. The label may be null.

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // The user's hand on menus, scroll bars, lists and other controls.
+#include "display/convert.h"
 #include "display/menu_widgets.h"
 #include "support/robot.h"
 
@@ -254,7 +255,7 @@ robot::field_text(BPoint where)
 	on_display([&] {
 		QWidget* found = _Window()->childAt((int)where.x, (int)where.y);
 		if (auto* line = dynamic_cast<QLineEdit*>(found))
-			text = line->text().toStdString();
+			text = to_bytes(line->text());
 	});
 	return text;
 }
