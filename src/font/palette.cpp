@@ -59,10 +59,10 @@ palette_edit(BView* palette, BRect place, const char* name, const char* label, c
 int16
 palette_number(const BTextControl* field, int16 otherwise)
 {
-	uint32 value;
+	int64 value;
 	if (!read_hex(field, &value))
 		return otherwise;
-	return (int16)std::min<uint32>(value, 0xFFFF);
+	return value < 0 ? -1 : (int16)std::min<int64>(value, 0xFFFF);
 }
 
 

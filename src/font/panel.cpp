@@ -6,6 +6,7 @@
 #include "font/ttf_table.h"
 #include <Button.h>
 #include <cstdio>
+#include <cstdlib>
 #include <ListView.h>
 #include <Message.h>
 #include <TextControl.h>
@@ -123,10 +124,11 @@ empty_list(BListView* list)
 
 
 bool
-read_hex(const BTextControl* control, uint32* value)
+read_hex(const BTextControl* control, int64* value)
 {
-	unsigned int number;
-	if (sscanf(control->Text(), "%x", &number) != 1)
+	char* end;
+	const long long number = strtoll(control->Text(), &end, 16);
+	if (end == control->Text())
 		return false;
 	*value = number;
 	return true;

@@ -92,8 +92,9 @@ BListView* panel_listview(BView* panel, BRect place, const char* name, uint32 wh
 // Removes and destroys the rows of a list, the last first.
 void empty_list(BListView* list);
 
-// The number typed in a field: true when its text begins with a hexadecimal one.
-bool read_hex(const BTextControl* control, uint32* value);
+// The number typed in a field: true when its text begins with a hexadecimal one, which may have a
+// sign. It may be larger than what it is meant for; beyond 63 bits it is the largest of these.
+bool read_hex(const BTextControl* control, int64* value);
 
 // Shows a number with so many digits, as a text of the program's: the field counts as unchanged.
 void show_hex(BTextControl* control, uint32 value, int digits);

@@ -155,10 +155,10 @@ ttf_head::date_text(uint64 seconds) const
 void
 ttf_head::edit()
 {
-	uint32 revision;
+	int64 revision;
 	if (read_hex(fontrevision, &revision)) {
-		show_hex(fontrevision, revision, 8);
-		put32(at_revision, revision);
+		show_hex(fontrevision, (uint32)revision, 8);
+		put32(at_revision, (uint32)revision);
 	}
 	Draw(Bounds());
 }

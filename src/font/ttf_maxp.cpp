@@ -136,7 +136,7 @@ ttf_maxp::redraw()
 void
 ttf_maxp::edit()
 {
-	uint32 elements;
+	int64 elements;
 	if (read_hex(maxstackelements, &elements)) {
 		show_hex(maxstackelements, (uint16)elements, 4);
 		put16(at_stack, (uint16)elements);

@@ -170,15 +170,16 @@ ttf_hmtx::MessageReceived(BMessage* message)
 void
 ttf_hmtx::choose()
 {
-	uint32 first;
+	int64 first;
 	unsigned short advance;
 	short bearing;
-	if (!read_hex(st, &first) || first > none || get_mtx((uint16)first, &advance, &bearing) != 0)
+	if (!read_hex(st, &first) || first < 0 || first > none
+		|| get_mtx((uint16)first, &advance, &bearing) != 0)
 		return;
 	shown = (uint16)first;
 	preview = nullptr;
-	show_hex(st, first, 4);
-	show_hex(ed, first, 4);
+	show_hex(st, shown, 4);
+	show_hex(ed, shown, 4);
 	show_hex(width, advance, 4);
 	show_hex(lsb, (uint16)bearing, 4);
 	left->SetValue(bearing);
@@ -197,8 +198,8 @@ follow(const BSlider* slider, int32* rest, BTextControl* field)
 	if (slider->Value() == *rest)
 		return;
 	*rest = slider->Value();
-	uint32 typed;
-	if (!read_hex(field, &typed) || (uint16)typed != (uint16)*rest)
+	int64 typed;
+	if (!read_hex(field, &typed) || (typed != *rest && typed != (uint16)*rest))
 		show_hex(field, (uint16)*rest, 4);
 }
 
@@ -215,15 +216,18 @@ ttf_hmtx::slide()
 void
 ttf_hmtx::set_range()
 {
-	uint32 first;
-	uint32 last;
-	uint32 advance;
-	uint32 bearing;
+	int64 first;
+	int64 last;
+	int64 advance;
+	int64 bearing;
 	bool typed = read_hex(st, &first) && read_hex(ed, &last) && read_hex(width, &advance)
 		&& read_hex(lsb, &bearing);
-	if (!typed || first > last || first >= owner->numglyphs())
+	if (!typed || first < 0 || first > last || first >= owner->numglyphs())
 		return;
-	for (uint32 g = first; g <= last; g++) {
+	// Of other numbers 16 bits would keep a part. A bearing is typed with its sign or as it is stored.
+	if (advance < 0 || advance > 0xFFFF || bearing < INT16_MIN || bearing > 0xFFFF)
+		return;
+	for (int64 g = first; g <= last; g++) {
 		if (set_mtx((uint16)g, (uint16)advance, (int16)bearing) != 0)
 			break;
 	}

@@ -336,36 +336,41 @@ ttf_cmap::redraw()
 }
 
 
-// What is typed in a field; 0 when that is no number.
+// What is typed in a field; 0 when that is no number. What 32 bits cannot hold stays too large for a
+// code when it is written back.
 static uint32
 typed(const BTextControl* field)
 {
-	uint32 number = 0;
+	int64 number = 0;
 	read_hex(field, &number);
-	return number;
+	return number < 0 ? UINT32_MAX : (uint32)std::min<int64>(number, UINT32_MAX);
 }
 
 
-// A new start code shows its glyph; the end code stays as it is.
+// A new start code shows its glyph, which is 0 for a code that no map has; the end code stays as it
+// is.
 void
 ttf_cmap::changed(const void* source)
 {
 	uint32 start = typed(st);
-	uint32 glyph = source == st ? get_gno((unsigned short)start) : typed(gno);
+	uint32 glyph = typed(gno);
+	if (source == st)
+		glyph = start <= last_code ? get_gno((unsigned short)start) : 0;
 	show_hex(st, start, 4);
 	show_hex(ed, typed(ed), 4);
 	show_hex(gno, glyph, 4);
 }
 
 
-// Only the first glyph of a range is checked against the glyph count.
+// Only the first glyph of a range is checked against the glyph count. A number beyond 16 bits would
+// change another code or glyph than the user means.
 void
 ttf_cmap::pressed()
 {
 	uint32 start = typed(st);
 	uint32 end = typed(ed);
 	uint32 glyph = typed(gno);
-	if ((int32)start > (int32)end || (glyph != none && glyph >= owner->numglyphs()))
+	if (start > end || end > last_code || (glyph != none && glyph >= owner->numglyphs()))
 		return;
 	set_chr((unsigned short)start, (unsigned short)end, (unsigned short)glyph);
 }

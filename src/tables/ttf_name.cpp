@@ -331,9 +331,10 @@ ttf_name::remove_selected()
 void
 ttf_name::set_typed()
 {
-	uint32 ids[4];
+	int64 ids[4];
 	if (read_hex(pid, &ids[0]) && read_hex(eid, &ids[1]) && read_hex(lid, &ids[2])
-		&& read_hex(nid, &ids[3]))
+		&& read_hex(nid, &ids[3])
+		&& std::all_of(ids, ids + 4, [](int64 id) { return id >= 0 && id <= 0xFFFF; }))
 		set_field(
 			(uint16)ids[0], (uint16)ids[1], (uint16)ids[2], (uint16)ids[3], text_field->Text());
 	redraw();

@@ -83,10 +83,10 @@ ttf_post::MessageReceived(BMessage* message)
 		BView::MessageReceived(message);
 		return;
 	}
-	uint32 value;
+	int64 value;
 	if (read_hex(isFixedPitch, &value)) {
-		show_hex(isFixedPitch, value, 8);
-		put32(at_isFixedPitch, value);
+		show_hex(isFixedPitch, (uint32)value, 8);
+		put32(at_isFixedPitch, (uint32)value);
 	}
 	Draw(Bounds());
 }

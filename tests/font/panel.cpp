@@ -36,13 +36,14 @@ text_of(std::string_view digits, uint16 offset, uint8 size)
 }
 
 
-// What the text says, or -1 when it is no number.
+// What the text says; fails the test when it is no number.
 int64
 number_in(const char* text)
 {
 	text_field field(text);
-	uint32 value;
-	return read_hex(&field, &value) ? (int64)value : -1;
+	int64 value = 0;
+	EXPECT_TRUE(read_hex(&field, &value)) << text;
+	return value;
 }
 
 }
@@ -64,7 +65,26 @@ TEST(panel_read_hex, takes_the_number_that_a_text_begins_with)
 	EXPECT_EQ(number_in("0x1f"), 0x1F);
 	EXPECT_EQ(number_in("12zz"), 0x12);
 	EXPECT_EQ(number_in("12 34"), 0x12);
-	EXPECT_EQ(number_in("-1"), 0xFFFFFFFF);
+}
+
+
+TEST(panel_read_hex, takes_numbers_of_more_than_32_bits_for_what_they_are)
+{
+	EXPECT_EQ(number_in("100000000"), 4294967296);
+	EXPECT_EQ(number_in("100000001"), 4294967297);
+	EXPECT_EQ(number_in("fffffffffffffff5"), INT64_MAX);
+	EXPECT_EQ(number_in("10000000000000005"), INT64_MAX);
+	EXPECT_EQ(number_in("0000000000000000000000005"), 5);
+}
+
+
+TEST(panel_read_hex, takes_a_sign)
+{
+	EXPECT_EQ(number_in("-1"), -1);
+	EXPECT_EQ(number_in(" -5"), -5);
+	EXPECT_EQ(number_in("-0x1f"), -31);
+	EXPECT_EQ(number_in("+1f"), 31);
+	EXPECT_EQ(number_in("-100000001"), -4294967297);
 }
 
 
@@ -72,9 +92,9 @@ TEST(panel_read_hex, refuses_what_is_no_number_and_leaves_the_value_alone)
 {
 	for (const char* text : {"", " ", "zz", "z1", "-", "g", "あ", "."}) {
 		text_field field(text);
-		uint32 value = 5;
+		int64 value = 5;
 		EXPECT_FALSE(read_hex(&field, &value)) << text;
-		EXPECT_EQ(value, 5u) << text;
+		EXPECT_EQ(value, 5) << text;
 	}
 }
 

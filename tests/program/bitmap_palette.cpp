@@ -183,7 +183,7 @@ TEST(bitmap_palette, chooses_a_glyph_by_its_number)
 TEST(bitmap_palette, chooses_glyph_0_for_numbers_that_are_none)
 {
 	at_bitmaps(font_of(two_sizes()), [](kernix&, robot& user) {
-		for (const char* number : {"5", "8000", "ffff", "10001"}) {
+		for (const char* number : {"5", "8000", "ffff", "10001", "100000001"}) {
 			enter(user, gno_field, "1");
 			enter(user, gno_field, number);
 			EXPECT_EQ(user.field_text(gno_field), "0000") << number;

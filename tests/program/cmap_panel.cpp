@@ -187,11 +187,13 @@ TEST(cmap_panel, takes_what_is_no_number_for_0)
 }
 
 
-TEST(cmap_panel, shows_five_digits_as_they_are_and_the_glyph_of_the_low_four)
+TEST(cmap_panel, shows_a_code_beyond_16_bits_as_it_is_and_no_glyph)
 {
 	at_panel(roomy_font(), [](kernix&, robot& user) {
 		enter(user, start_field, "10042");
-		EXPECT_EQ(fields(user), "10042 0000 0002");
+		EXPECT_EQ(fields(user), "10042 0000 0000");
+		enter(user, start_field, "100000042");
+		EXPECT_EQ(fields(user), "ffffffff 0000 0000");
 	});
 }
 
@@ -256,15 +258,21 @@ TEST(cmap_panel, sets_nothing_when_the_range_ends_before_it_starts)
 }
 
 
-TEST(cmap_panel, compares_the_ends_of_a_range_as_signed_numbers)
+TEST(cmap_panel, sets_nothing_for_codes_beyond_16_bits)
 {
 	at_panel(roomy_font(), [](kernix& app, robot& user) {
-		set(user, "41", "80000041", "9");
-		EXPECT_EQ(cmap_octets(app), hex(four_letters));
-		// Goes, as the start is far below 0; but then from ffff to 41.
-		set(user, "ffffffff", "41", "9");
-		EXPECT_EQ(glyph_of(app, 0x41), 1);
-		EXPECT_EQ(part(cmap_octets(app), 20, 6), hex("0002 0000 0002"));
+		const struct {
+			const char* start;
+			const char* end;
+		} ranges[] = {{"1f600", "1f600"}, {"41", "10000"}, {"41", "10005"}, {"41", "80000041"},
+			{"41", "100000042"}, {"ffffffff", "41"}, {"80000041", "42"}, {"-1", "-1"},
+			{"100000041", "100000042"}};
+		for (const auto& range : ranges) {
+			for (const char* glyph : {"9", "ffff"}) {
+				set(user, range.start, range.end, glyph);
+				EXPECT_EQ(cmap_octets(app), hex(four_letters)) << range.start << ".." << range.end;
+			}
+		}
 	});
 }
 
@@ -272,7 +280,7 @@ TEST(cmap_panel, compares_the_ends_of_a_range_as_signed_numbers)
 TEST(cmap_panel, sets_no_glyph_that_the_font_does_not_have)
 {
 	at_panel(roomy_font(), [](kernix& app, robot& user) {
-		for (const char* glyph : {"200", "fffe", "1ffff", "ffffffff", "80000001"}) {
+		for (const char* glyph : {"200", "fffe", "10009", "1ffff", "ffffffff", "100000009", "-1"}) {
 			set(user, "61", "61", glyph);
 			EXPECT_EQ(cmap_octets(app), hex(four_letters)) << glyph;
 		}

@@ -176,6 +176,32 @@ TEST(hmtx_panel, stores_nothing_for_a_start_that_is_no_glyph)
 }
 
 
+TEST(hmtx_panel, stores_nothing_for_metrics_beyond_16_bits)
+{
+	at_hmtx(five_glyphs(), [](kernix& app, robot& user) {
+		for (const char* number : {"10000", "10005", "100000005", "80000005"}) {
+			set_metrics(user, "1", "1", number, "6");
+			EXPECT_EQ(hmtx_octets(app), hex(three_and_two)) << number;
+			set_metrics(user, "1", "1", "5", number);
+			EXPECT_EQ(hmtx_octets(app), hex(three_and_two)) << number;
+		}
+		set_metrics(user, "1", "1", "-1", "6");
+		set_metrics(user, "1", "1", "5", "-8001");
+		EXPECT_EQ(hmtx_octets(app), hex(three_and_two));
+	});
+}
+
+
+TEST(hmtx_panel, takes_a_bearing_with_its_sign)
+{
+	at_hmtx(five_glyphs(), [](kernix& app, robot& user) {
+		set_metrics(user, "0", "0", "5", "-5");
+		set_metrics(user, "1", "1", "6", "-8000");
+		EXPECT_EQ(part(hmtx_octets(app), 0, 8), hex("0005 fffb 0006 8000"));
+	});
+}
+
+
 TEST(hmtx_panel, stores_nothing_where_a_field_is_no_number)
 {
 	at_hmtx(five_glyphs(), [](kernix& app, robot& user) {

@@ -135,6 +135,8 @@ TEST(maxp_panel, keeps_the_low_16_bits_of_what_is_typed)
 		enter(user, stack_field, "12345");
 		EXPECT_EQ(stack_elements(app), hex("2345"));
 		EXPECT_EQ(user.field_text(stack_field), "2345");
+		enter(user, stack_field, "100000005");
+		EXPECT_EQ(user.field_text(stack_field), "0005");
 	});
 }
 

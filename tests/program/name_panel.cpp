@@ -283,14 +283,30 @@ TEST(name_panel, sets_nothing_unless_all_four_ids_are_numbers)
 }
 
 
-TEST(name_panel, takes_the_low_16_bits_of_an_id)
+TEST(name_panel, takes_the_number_that_an_id_begins_with)
 {
 	at_panel([](kernix&, robot& user) {
-		put_ids(user, "0x10001", "ffff0000", "0", "1z");
+		put_ids(user, "0x0001", " 0", "00000000000", "1z");
 		put_text(user, data_field, "new");
 		user.click(set_button);
 		EXPECT_EQ(
 			user.list_rows(list), (texts{"0001-0000-0000-0001 new", three_rows[1], three_rows[2]}));
+	});
+}
+
+
+TEST(name_panel, sets_nothing_for_an_id_beyond_16_bits)
+{
+	at_panel([](kernix& app, robot& user) {
+		for (BPoint field : {platform_field, encoding_field, language_field, name_field}) {
+			for (const char* id : {"10001", "ffff0000", "100000001", "-1"}) {
+				put_ids(user, "1", "0", "0", "1");
+				put_text(user, data_field, "new");
+				enter(user, field, id);
+				user.click(set_button);
+				EXPECT_EQ(name_octets(app), hex(three_names)) << id;
+			}
+		}
 	});
 }
 

@@ -105,7 +105,7 @@ TEST(outline_palette_buttons, add_sends_the_number_that_was_typed)
 TEST(outline_palette_buttons, add_sends_none_for_what_is_no_number)
 {
 	at_components([](outline_stage& stage) {
-		for (const char* text : {"no", "", "10001"}) {
+		for (const char* text : {"no", "", "10001", "100000001"}) {
 			enter(stage.user, sub_field, text);
 			EXPECT_EQ(sent_by(stage, add_button.x, add_button.y), texts{"Cadd sub=ffff"}) << text;
 		}

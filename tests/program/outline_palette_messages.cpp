@@ -84,6 +84,8 @@ TEST(outline_palette_messages, a_number_beyond_16_bits_is_sent_as_none)
 	at_outlines([](outline_stage& stage) {
 		EXPECT_EQ(sent_by(stage, number_field, "10001"), texts{"Vchg gno=ffff"});
 		EXPECT_EQ(sent_by(stage, code_field, "10041"), texts{"Vchg chr=ffff"});
+		EXPECT_EQ(sent_by(stage, number_field, "100000001"), texts{"Vchg gno=ffff"});
+		EXPECT_EQ(sent_by(stage, code_field, "10000000000000041"), texts{"Vchg chr=ffff"});
 	});
 }
 

@@ -109,6 +109,10 @@ TEST(post_panel, stores_all_32_bits)
 		enter(user, pitch_field, "0xFEDCBA98");
 		EXPECT_EQ(user.field_text(pitch_field), "fedcba98");
 		EXPECT_EQ(part(post_octets(app), 12, 4), hex("fedcba98"));
+		enter(user, pitch_field, "1000000a7");
+		EXPECT_EQ(user.field_text(pitch_field), "000000a7");
+		enter(user, pitch_field, "-1");
+		EXPECT_EQ(user.field_text(pitch_field), "ffffffff");
 		enter(user, pitch_field, "7 8");
 		EXPECT_EQ(user.field_text(pitch_field), "00000007");
 	});
