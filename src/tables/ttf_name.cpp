@@ -6,16 +6,13 @@
 #include "font/malloc32.h"
 #include "font/messages.h"
 #include "font/panel.h"
+#include "tables/name_layout.h"
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <ListItem.h>
 #include <ListView.h>
 #include <Message.h>
-#include <string_view>
 #include <TextControl.h>
-#include <UTF8.h>
-#include <vector>
 
 enum {
 	header_size = 6,
@@ -25,19 +22,10 @@ enum {
 	at_length = 8,
 	at_place = 10
 };
-enum { longest_text = 0xFFFF };
-// Room for a text in the panel, with its NUL.
+// Behind so many records 16 bits can tell where the texts start.
+static const size_t most_records = (last_name_place - header_size) / record_size;
+// Room for a text in the list, with its NUL.
 enum { shown_size = 256 };
-
-static const char substitute = 26;
-
-// What the table is to hold: keys, and bytes that somebody else keeps.
-struct name_record {
-	uint64 key;
-	std::span<const unsigned char> text;
-};
-
-struct name_records : std::vector<name_record> {};
 
 
 ttf_name::ttf_name(ttf* font, unsigned char* buffer, unsigned long size)
@@ -50,7 +38,8 @@ ttf_name::ttf_name(ttf* font, unsigned char* buffer, unsigned long size)
 	  text_field(nullptr),
 	  add(nullptr),
 	  del(nullptr),
-	  set(nullptr)
+	  set(nullptr),
+	  shown(-1)
 {
 	if (data == nullptr)
 		create_default();
@@ -95,7 +84,7 @@ ttf_name::key(int index) const
 
 
 // A record's text as it lies in the table, as far as the table goes.
-std::span<const unsigned char>
+name_bytes
 ttf_name::stored(int index) const
 {
 	const uint32 record = header_size + record_size * (uint32)index;
@@ -112,25 +101,10 @@ key_of(unsigned short platformID, unsigned short encodingID, unsigned short lang
 }
 
 
-enum encoding { raw, unicode, shift_jis };
-
-static encoding
-encoding_of(unsigned short platformID, unsigned short encodingID, unsigned short languageID)
+static name_encoding
+encoding_of(uint64 key)
 {
-	if (platformID == 3 && encodingID == 1)
-		return unicode;
-	if (platformID == 0 && encodingID == 0 && languageID == 0)
-		return unicode;
-	if (platformID == 1 && encodingID == 1 && languageID == 11)
-		return shift_jis;
-	return raw;
-}
-
-
-static uint32
-conversion_of(encoding kind)
-{
-	return kind == unicode ? B_UNICODE_CONVERSION : B_SJIS_CONVERSION;
+	return name_encoding_of((uint16)(key >> 48), (uint16)(key >> 32), (uint16)(key >> 16));
 }
 
 
@@ -146,42 +120,11 @@ ttf_name::get_field(int index, unsigned short* platformID, unsigned short* encod
 	*languageID = (uint16)(id >> 16);
 	*nameID = (uint16)id;
 
-	const std::span<const unsigned char> bytes = stored(index);
-	const encoding kind = encoding_of(*platformID, *encodingID, *languageID);
-	int32 from = (int32)bytes.size();
-	int32 written = (int32)std::min<long>(*room - 1, INT32_MAX);
-	if (kind == raw) {
-		written = std::min(written, from);
-		memcpy(text, bytes.data(), (size_t)written);
-	} else {
-		// Half of a character at the end is none.
-		if (kind == unicode)
-			from &= ~1;
-		int32 state = 0;
-		convert_to_utf8(conversion_of(kind), (const char*)bytes.data(), &from, text, &written,
-			&state, substitute);
-	}
+	const int32 written = read_name(
+		encoding_of(id), stored(index), text, (int32)std::min<long>(*room - 1, INT32_MAX));
 	text[written] = '\0';
 	*room = written;
 	return 0;
-}
-
-
-// A text as the table stores it.
-static std::string
-encoded(encoding kind, const char* text)
-{
-	std::string_view given(text);
-	if (kind == raw)
-		return std::string(given.substr(0, longest_text));
-	std::string made(std::min<size_t>(2 * given.size(), longest_text - 1), '\0');
-	int32 from = (int32)given.size();
-	int32 written = (int32)made.size();
-	int32 state = 0;
-	convert_from_utf8(
-		conversion_of(kind), given.data(), &from, made.data(), &written, &state, substitute);
-	made.resize((size_t)written);
-	return made;
 }
 
 
@@ -190,6 +133,20 @@ ttf_name::set_field(unsigned short platformID, unsigned short encodingID, unsign
 	unsigned short nameID, const char* text)
 {
 	const uint64 named = key_of(platformID, encodingID, languageID, nameID);
+	if (text != nullptr) {
+		put(named, stored_name(encoding_of(named), text));
+		return;
+	}
+	int index = 0;
+	while (index < count() && key(index) != named)
+		index++;
+	remove(index);
+}
+
+
+void
+ttf_name::put(uint64 named, const std::string& text)
+{
 	name_records records;
 	size_t position = 0;
 	for (int i = 0; i < count(); i++) {
@@ -199,41 +156,55 @@ ttf_name::set_field(unsigned short platformID, unsigned short encodingID, unsign
 		if (key(i) < named)
 			position = records.size();
 	}
-	std::string made;
-	if (text != nullptr) {
-		made = encoded(encoding_of(platformID, encodingID, languageID), text);
-		records.insert(records.begin() + (ptrdiff_t)position,
-			{named, {(const unsigned char*)made.data(), made.size()}});
+	records.insert(records.begin() + (ptrdiff_t)position,
+		{named, {(const unsigned char*)text.data(), text.size()}});
+	if (records.size() <= most_records || (int)records.size() <= count())
+		rebuild(records);
+}
+
+
+void
+ttf_name::remove(int index)
+{
+	name_records records;
+	for (int i = 0; i < count(); i++) {
+		if (i != index)
+			records.push_back({key(i), stored(i)});
 	}
-	// This also bounds what texts that lie upon each other come to when they are laid out apart.
-	if (header_size + record_size * records.size() > 0xFFFF)
-		return;
 	rebuild(records);
 }
 
 
-// Lays the records out in this order, their texts one after the other.
+// Makes the table of these records, in this order; leaves it as it is where that cannot be told. With
+// all texts starting in 64 KiB it is never 128 KiB longer than its records.
 void
 ttf_name::rebuild(const name_records& records)
 {
-	const uint32 storage = header_size + record_size * (uint32)records.size();
-	uint32 size = storage;
-	for (const name_record& record : records)
-		size += (uint32)record.text.size();
+	const uint32 texts = header_size + record_size * (uint32)records.size();
+	// More records are told from a place among them on.
+	const uint32 storage = std::min(texts, last_name_place);
+	const std::optional<name_layout> layout = lay_names(records, texts - storage);
+	if (!layout)
+		return;
 	// The texts still lie in the old bytes.
 	unsigned char* old = data;
-	data = malloc32((int)size);
-	length = size;
+	length = storage + layout->end;
+	data = malloc32((int)length);
 	put16(at_count, (uint16)records.size());
 	put16(at_storage, (uint16)storage);
 	uint32 record = header_size;
-	uint32 place = 0;
-	for (const name_record& each : records) {
-		put64(record, each.key);
-		put16(record + at_length, (uint16)each.text.size());
-		put16(record + at_place, (uint16)place);
-		std::copy(each.text.begin(), each.text.end(), data + storage + place);
-		place += (uint32)each.text.size();
+	uint32 next = texts - storage;
+	for (size_t i = 0; i < records.size(); i++) {
+		const name_bytes& text = records[i].text;
+		const uint16 place = layout->places[i];
+		put64(record, records[i].key);
+		put16(record + at_length, (uint16)text.size());
+		put16(record + at_place, place);
+		// Else its bytes are there already.
+		if (place == next) {
+			std::copy(text.begin(), text.end(), data + storage + place);
+			next += (uint32)text.size();
+		}
 		record += record_size;
 	}
 	delete[] old;
@@ -300,9 +271,10 @@ void
 ttf_name::select(int32 index)
 {
 	unsigned short ids[4];
-	char text[shown_size];
+	char text[1];
 	long size = sizeof text;
 	BTextControl* const fields[] = {pid, eid, lid, nid};
+	shown = index;
 	if (get_field(index, &ids[0], &ids[1], &ids[2], &ids[3], &size, text) != 0) {
 		for (BTextControl* field : fields)
 			field->SetText("");
@@ -311,32 +283,46 @@ ttf_name::select(int32 index)
 	}
 	for (int i = 0; i < 4; i++)
 		show_hex(fields[i], ids[i], 4);
-	text_field->SetText(text);
+	text_field->SetText(name_for_field(encoding_of(key(index)), stored(index)).c_str());
 }
 
 
 void
 ttf_name::remove_selected()
 {
-	unsigned short ids[4];
-	char text[1];
-	long size = sizeof text;
-	if (get_field(list->CurrentSelection(), &ids[0], &ids[1], &ids[2], &ids[3], &size, text) != 0)
+	const int32 index = list->CurrentSelection();
+	if (index < 0 || index >= count())
 		return;
-	set_field(ids[0], ids[1], ids[2], ids[3], nullptr);
+	remove(index);
 	redraw();
+}
+
+
+// The four identifiers that are typed, as a key; none unless all are numbers of 16 bits.
+std::optional<uint64>
+ttf_name::typed_key() const
+{
+	uint64 typed = 0;
+	for (const BTextControl* field : {pid, eid, lid, nid}) {
+		int64 id;
+		if (!read_hex(field, &id) || id < 0 || id > 0xFFFF)
+			return std::nullopt;
+		typed = typed << 16 | (uint64)id;
+	}
+	return typed;
 }
 
 
 void
 ttf_name::set_typed()
 {
-	int64 ids[4];
-	if (read_hex(pid, &ids[0]) && read_hex(eid, &ids[1]) && read_hex(lid, &ids[2])
-		&& read_hex(nid, &ids[3])
-		&& std::all_of(ids, ids + 4, [](int64 id) { return id >= 0 && id <= 0xFFFF; }))
-		set_field(
-			(uint16)ids[0], (uint16)ids[1], (uint16)ids[2], (uint16)ids[3], text_field->Text());
+	if (const std::optional<uint64> typed = typed_key()) {
+		const name_encoding wanted = encoding_of(*typed);
+		name_bytes before;
+		if (shown >= 0 && shown < count() && encoding_of(key(shown)) == wanted)
+			before = stored(shown);
+		put(*typed, edited_name(wanted, before, text_field->Text()));
+	}
 	redraw();
 }
 

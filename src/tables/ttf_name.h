@@ -5,7 +5,8 @@
 #define KERNIX_TABLES_TTF_NAME_H
 
 #include "font/ttf_table.h"
-#include <span>
+#include "tables/name_text.h"
+#include <optional>
 #include <string>
 
 class BButton;
@@ -38,9 +39,11 @@ public:
 		unsigned short* languageID, unsigned short* nameID, long* length, char* text) const;
 
 	// Replaces the record with that key, or inserts one behind the last with a smaller key; null
-	// deletes it. The text is UTF-8 where it is to be converted. Other records keep their keys and
-	// bytes; several of one key become one. Texts beyond 65535 bytes are cut off, and nothing changes
-	// where the table would have more records than 16 bits can tell the end of, 5460.
+	// deletes the first with that key. The text is UTF-8 where it is to be converted; beyond 65535
+	// stored bytes it is cut off. Other records keep their keys and bytes; several of one key become
+	// one. Texts that shared bytes get bytes of their own, or only equal ones are shared where 16 bits
+	// could not tell all the places. Nothing changes where they could not even so, nor where a record
+	// more would make more than 5460.
 	void set_field(unsigned short platformID, unsigned short encodingID, unsigned short languageID,
 		unsigned short nameID, const char* text);
 
@@ -53,8 +56,11 @@ public:
 
 private:
 	uint64 key(int index) const;
-	std::span<const unsigned char> stored(int index) const;
+	name_bytes stored(int index) const;
+	void put(uint64 named, const std::string& text);
+	void remove(int index);
 	void rebuild(const struct name_records& records);
+	std::optional<uint64> typed_key() const;
 	void select(int32 index);
 	void remove_selected();
 	void set_typed();
@@ -69,6 +75,8 @@ private:
 	BButton* add;
 	BButton* del;
 	BButton* set;
+
+	int32 shown; // the record that the fields were filled from; none below 0
 };
 
 #endif

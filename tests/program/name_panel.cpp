@@ -5,7 +5,7 @@
 #include "app/kernix.h"
 #include "font/globals.h"
 #include "font/ttf.h"
-#include "program/panel_user.h"
+#include "program/name_user.h"
 #include "support/installed_fonts.h"
 #include "support/opened.h"
 #include "support/temp_files.h"
@@ -20,17 +20,6 @@
 
 using texts = std::vector<std::string>;
 
-static const BPoint tag_of_name = place_of_tag(1);
-static const BPoint list = in_panel(280, 200);
-static const BPoint add_button = in_panel(45, 420);
-static const BPoint del_button = in_panel(125, 420);
-static const BPoint set_button = in_panel(520, 460);
-static const BPoint platform_field = in_panel(110, 460);
-static const BPoint encoding_field = in_panel(230, 460);
-static const BPoint language_field = in_panel(350, 460);
-static const BPoint name_field = in_panel(470, 460);
-static const BPoint data_field = in_panel(300, 490);
-
 static constexpr std::string_view three_names = "0000 0003 002a"
 												"0001 0000 0000 0001 0001 0000"
 												"0001 0001 000b 0004 0004 0001"
@@ -41,63 +30,10 @@ static const texts three_rows = {
 	"0001-0000-0000-0001 a", "0001-0001-000b-0004 日本", "0003-0001-0409-0001 cé"};
 
 
-// Opens a font with this table and chooses its panel.
-static void
-at_panel(const octets& names, const std::function<void(kernix&, robot&)>& work)
-{
-	temp_file font(font_file().with("cmap", tiny_font().table("cmap")).with("name", names));
-	journey([&](kernix& app, robot& user) {
-		open_file(user, font.path());
-		user.click(tag_of_name);
-		work(app, user);
-	});
-}
-
-
 static void
 at_panel(const std::function<void(kernix&, robot&)>& work)
 {
-	at_panel(hex(three_names), work);
-}
-
-
-static octets
-name_octets(kernix& app)
-{
-	octets table;
-	looking(app, [&] { table = kept(curttf->name); });
-	return table;
-}
-
-
-// The texts of the five fields.
-static std::string
-fields(robot& user)
-{
-	return user.field_text(platform_field) + "-" + user.field_text(encoding_field) + "-"
-		+ user.field_text(language_field) + "-" + user.field_text(name_field) + " "
-		+ user.field_text(data_field);
-}
-
-
-// Puts a text in the place of what a field holds, with any characters.
-static void
-put_text(robot& user, BPoint field, const std::string& text)
-{
-	enter(user, field, "");
-	user.key(Qt::Key_unknown, text);
-	user.key(Qt::Key_Return, "\r");
-}
-
-
-static void
-put_ids(
-	robot& user, const char* platform, const char* encoding, const char* language, const char* name)
-{
-	enter(user, platform_field, platform);
-	enter(user, encoding_field, encoding);
-	enter(user, language_field, language);
-	enter(user, name_field, name);
+	at_names(hex(three_names), work);
 }
 
 
@@ -185,27 +121,6 @@ TEST(name_panel, adds_a_record_at_its_place)
 				"0001 0001 000b 0004 0004 0004"
 				"0003 0001 0409 0001 0004 0008"
 				"61 6e6577 93fa967b 0063 00e9"));
-	});
-}
-
-
-TEST(name_panel, takes_japanese_text_for_three_encodings)
-{
-	at_panel(hex("0000 0000 0006"), [](kernix& app, robot& user) {
-		put_ids(user, "1", "1", "B", "1");
-		put_text(user, data_field, "日本語ソ");
-		user.click(set_button);
-		put_ids(user, "3", "1", "411", "1");
-		user.click(set_button);
-		put_ids(user, "1", "0", "B", "1");
-		user.click(set_button);
-		EXPECT_EQ(user.list_rows(list),
-			(texts{"0001-0000-000b-0001 日本語ソ", "0001-0001-000b-0001 日本語ソ",
-				"0003-0001-0411-0001 日本語ソ"}));
-		EXPECT_EQ(part(name_octets(app), 42, 99),
-			hex("e697a5e69cace8aa9ee382bd 93fa967b8cea835c 65e5672c8a9e30bd"));
-		user.choose_row(list, 1);
-		EXPECT_EQ(fields(user), "0001-0001-000b-0001 日本語ソ");
 	});
 }
 
@@ -307,31 +222,6 @@ TEST(name_panel, sets_nothing_for_an_id_beyond_16_bits)
 				EXPECT_EQ(name_octets(app), hex(three_names)) << id;
 			}
 		}
-	});
-}
-
-
-TEST(name_panel, stores_a_long_text_whole_and_shows_255_bytes_of_it)
-{
-	at_panel(hex("0000 0000 0006"), [](kernix& app, robot& user) {
-		put_ids(user, "3", "1", "409", "1");
-		put_text(user, data_field, std::string(300, 'x'));
-		user.click(set_button);
-		EXPECT_EQ(name_octets(app).size(), 18u + 600);
-		EXPECT_EQ(user.list_rows(list), texts{"0003-0001-0409-0001 " + std::string(255, 'x')});
-		user.choose_row(list, 0);
-		EXPECT_EQ(user.field_text(data_field), std::string(255, 'x'));
-	});
-}
-
-
-TEST(name_panel, gives_bytes_back_that_are_no_utf8)
-{
-	const octets roman = hex("0000 0001 0012 0001 0000 0000 0000 0003 0000 a92041");
-	at_panel(roman, [&](kernix& app, robot& user) {
-		user.choose_row(list, 0);
-		user.click(set_button);
-		EXPECT_EQ(name_octets(app), roman);
 	});
 }
 

@@ -266,9 +266,17 @@ TEST(name_writing, makes_one_of_several_records_of_a_key)
 	name.set_field(1, 0, 0, 4, "new");
 	EXPECT_EQ(listed_names(name),
 		(texts{"0003-0001-0409-0001 a", "0001-0000-0000-0001 c", "0001-0000-0000-0004 new"}));
-	name_table other(disordered);
-	other.set_field(1, 0, 0, 4, nullptr);
-	EXPECT_EQ(listed_names(other), (texts{"0003-0001-0409-0001 a", "0001-0000-0000-0001 c"}));
+}
+
+
+TEST(name_writing, deletes_the_first_of_several_records_of_a_key)
+{
+	name_table name(disordered);
+	name.set_field(1, 0, 0, 4, nullptr);
+	EXPECT_EQ(listed_names(name),
+		(texts{"0003-0001-0409-0001 a", "0001-0000-0000-0001 c", "0001-0000-0000-0004 d"}));
+	name.set_field(1, 0, 0, 4, nullptr);
+	EXPECT_EQ(listed_names(name), (texts{"0003-0001-0409-0001 a", "0001-0000-0000-0001 c"}));
 }
 
 
@@ -296,18 +304,39 @@ TEST(name_writing, cuts_a_text_at_what_16_bits_can_tell)
 }
 
 
-TEST(name_writing, wraps_the_place_in_its_field_only)
+// What a raw text becomes that starts with so many letters x.
+static std::string
+cut(size_t letters, const std::string& text)
 {
-	const std::string longest(65535, 'x');
 	name_table name("0000 0000 0006");
-	name.set_field(1, 0, 0, 1, longest.c_str());
-	name.set_field(1, 0, 0, 2, "ab");
-	name.set_field(1, 0, 0, 3, "c");
-	const octets table = kept(&name);
-	ASSERT_EQ(table.size(), 42u + 65535 + 3);
-	EXPECT_EQ(part(table, 18, 12), hex("0001 0000 0000 0002 0002 ffff"));
-	EXPECT_EQ(part(table, 30, 12), hex("0001 0000 0000 0003 0001 0001"));
-	EXPECT_EQ(part(table, 42 + 65535, 3), hex("616263"));
+	name.set_field(1, 0, 0, 1, (std::string(letters, 'x') + text).c_str());
+	return text_of(name, 0, 80000).substr(letters);
+}
+
+
+TEST(name_writing, cuts_a_text_where_a_character_ends)
+{
+	EXPECT_EQ(cut(65534, "é"), "");
+	EXPECT_EQ(cut(65533, "é"), "é");
+	EXPECT_EQ(cut(65533, "ééé"), "é");
+	EXPECT_EQ(cut(65533, "日本"), "");
+	EXPECT_EQ(cut(65532, "日本"), "日");
+	EXPECT_EQ(cut(65532, "😀"), "");
+	EXPECT_EQ(cut(65531, "😀a"), "😀");
+	// Bytes that are not UTF-8 are one each.
+	EXPECT_EQ(cut(65533, "\x8E\x8F\x90\x91\x92"), "\x8E\x8F");
+	EXPECT_EQ(cut(65531, "\x8E\x8F\x90\x91\x92\x93"), "\x8E\x8F\x90\x91");
+	EXPECT_EQ(cut(65534, "\xFF\x80\x80"), "\xFF");
+}
+
+
+TEST(name_writing, cuts_a_converted_text_where_a_character_ends)
+{
+	name_table name("0000 0000 0006");
+	name.set_field(3, 1, 0, 1, (std::string(32766, 'x') + "😀").c_str());
+	EXPECT_EQ(be16(kept(&name), 14), 65532);
+	name.set_field(1, 1, 11, 1, (std::string(65533, 'x') + "日").c_str());
+	EXPECT_EQ(be16(kept(&name), 14), 65533);
 }
 
 
