@@ -5,7 +5,6 @@
 
 #include <map>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 
@@ -32,7 +31,7 @@ laid_once(const name_records& records, uint32 from)
 {
 	name_layout made;
 	std::map<std::pair<const unsigned char*, size_t>, uint16> seen;
-	std::unordered_map<std::string_view, uint16> laid = {{"", 0}};
+	std::map<std::string_view, uint16> laid = {{"", 0}};
 	for (const name_record& record : records) {
 		const std::string_view text((const char*)record.text.data(), record.text.size());
 		const auto [known, unseen] = seen.try_emplace({record.text.data(), text.size()});

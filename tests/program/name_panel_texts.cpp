@@ -166,15 +166,16 @@ TEST(name_panel, converts_a_text_that_is_set_in_another_encoding)
 
 TEST(name_panel, takes_nothing_of_the_record_that_was_shown_for_a_new_one)
 {
-	at_names(
-		hex("0000 0001 0012 0003 0001 0409 0001 0002 0000 d83d"), [](kernix& app, robot& user) {
-			user.choose_row(list, 0);
-			user.click(add_button);
-			put_ids(user, "3", "1", "409", "2");
-			put_text(user, data_field, "\x1A");
-			user.click(set_button);
-			EXPECT_EQ(part(name_octets(app), 30, 4), hex("d83d 001a"));
-		});
+	// The numero sign has two codes.
+	const octets names = hex("0000 0001 0012 0001 0001 000b 0001 0002 0000 fa59");
+	at_names(names, [](kernix& app, robot& user) {
+		user.choose_row(list, 0);
+		user.click(add_button);
+		put_ids(user, "1", "1", "b", "2");
+		put_text(user, data_field, "№");
+		user.click(set_button);
+		EXPECT_EQ(part(name_octets(app), 30, 4), hex("fa59 8782"));
+	});
 }
 
 

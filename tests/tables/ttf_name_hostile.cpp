@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // Naming tables that lie about what they hold.
+#include <ctime>
+#include <functional>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -78,24 +80,122 @@ TEST(hostile_name, may_have_its_texts_in_its_records)
 }
 
 
-// As many records as can be told, each with the longest text that can be: four gigabytes, laid out.
+// Records of platform 2 with their number as their key, each with a text of that length at the place
+// that is asked for; the texts are told from this place on, and the table is that long.
 static octets
-longest_texts(size_t count)
+claiming(size_t count, size_t storage, size_t size, const std::function<size_t(size_t)>& length,
+	const std::function<size_t(size_t)>& place)
 {
-	octets table = zeros(6 + 12 * count + 65535);
+	octets table = zeros(size);
 	put_be16(table, 2, uint16_t(count));
-	put_be16(table, 4, 6);
+	put_be16(table, 4, uint16_t(storage));
 	for (size_t i = 0; i < count; i++) {
 		put_be16(table, 6 + 12 * i, 2);
 		put_be16(table, 6 + 12 * i + 6, uint16_t(i));
-		put_be16(table, 6 + 12 * i + 8, 65535);
+		put_be16(table, 6 + 12 * i + 8, uint16_t(length(i)));
+		put_be16(table, 6 + 12 * i + 10, uint16_t(place(i)));
 	}
 	return table;
 }
 
 
+static std::function<size_t(size_t)>
+always(size_t value)
+{
+	return [=](size_t) { return value; };
+}
+
+
+// As many records as can be told, each with the longest text that can be: four gigabytes, laid out.
+static octets
+longest_texts(size_t count)
+{
+	return claiming(count, 6, 6 + 12 * count + 65535, always(65535), always(0));
+}
+
+
+struct record_text {
+	uint64 key;
+	std::string text;
+	bool operator==(const record_text&) const = default;
+};
+
+// Every record, with up to 300 bytes of its text.
+static std::vector<record_text>
+records_of(const ttf_name& name)
+{
+	std::vector<record_text> found;
+	for (int i = 0; i < name.count(); i++)
+		found.push_back({name.u64(6 + 12 * (uint32)i), text_of(name, i, 300)});
+	return found;
+}
+
+
+// Deletes a record, replaces one and adds one. Each time either nothing changes or that alone does,
+// and the table does not grow to more than 32 times the one that was loaded and a mebibyte.
+static void
+edit(const octets& table)
+{
+	name_table name(table);
+	const struct {
+		unsigned short id;
+		const char* text;
+	} edits[] = {{1, nullptr}, {2, "new"}, {0xFFFF, "last"}, {2, nullptr}};
+	for (const auto& each : edits) {
+		const octets old = kept(&name);
+		std::vector<record_text> expected = records_of(name);
+		std::erase_if(expected,
+			[&](const record_text& record) { return record.key == (uint64(2) << 48 | each.id); });
+		name.set_field(2, 0, 0, each.id, each.text);
+		std::vector<record_text> found = records_of(name);
+		if (same(old, kept(&name)))
+			continue;
+		EXPECT_LT(name.length, 32 * table.size() + 1048576);
+		std::erase_if(found,
+			[&](const record_text& record) { return record.key == (uint64(2) << 48 | each.id); });
+		EXPECT_TRUE(found == expected) << each.id;
+	}
+}
+
+
+TEST(hostile_name, is_edited_or_left_alone_at_once)
+{
+	const clock_t start = clock();
+	edit(longest_texts(65535));
+	edit(longest_texts(5460));
+	edit(longest_texts(10000));
+	// The same bytes at as many places.
+	edit(claiming(5460, 65526, 65526 + 131070, always(65535), [](size_t i) { return 12 * i; }));
+	edit(claiming(
+		10000, 65535, 65535 + 131070, always(65535), [](size_t i) { return 55000 + i % 10535; }));
+	edit(claiming(
+		65535, 6, 6 + 12 * 65535, always(65535), [](size_t i) { return 12 * (i % 5461); }));
+	// Two lengths, which differ in their last byte only; all lengths.
+	edit(claiming(
+		5460, 65526, 65526 + 131070, [](size_t i) { return 65535 - i % 2; },
+		[](size_t i) { return i; }));
+	edit(claiming(
+		5460, 65526, 65526 + 131070, [](size_t i) { return i; },
+		[](size_t i) { return 65535 - i; }));
+	// Nothing but records.
+	edit(claiming(65535, 6, 6 + 12 * 65535, always(0), always(65535)));
+	EXPECT_LT(double(clock() - start) / CLOCKS_PER_SEC, 30);
+}
+
+
+TEST(hostile_name, with_one_text_for_all_records_keeps_its_size)
+{
+	name_table name(claiming(5460, 65526, 65526 + 65535, always(65535), always(0)));
+	name.set_field(2, 0, 0, 7, "new");
+	EXPECT_EQ(text_of(name, 7), "new");
+	EXPECT_TRUE(text_of(name, 8, 70000) == std::string(65535, '\0'));
+	EXPECT_EQ(name.length, 6u + 12 * 5460 + 65535 + 3);
+}
+
+
 TEST(hostile_name, of_more_records_than_16_bits_have_places_for_is_not_edited)
 {
+	// Their texts lie among the records, and behind these 16 bits tell no place.
 	const octets table = longest_texts(65535);
 	name_table name(table);
 	EXPECT_EQ(name.count(), 65535);
@@ -103,6 +203,17 @@ TEST(hostile_name, of_more_records_than_16_bits_have_places_for_is_not_edited)
 	name.set_field(2, 0, 0, 7, "new");
 	name.set_field(3, 1, 0, 7, "new");
 	EXPECT_TRUE(same(table, kept(&name)));
+}
+
+
+TEST(hostile_name, of_any_number_of_records_without_texts_can_be_shortened)
+{
+	name_table name(claiming(65535, 6, 6 + 12 * 65535, always(0), always(65535)));
+	name.set_field(2, 0, 0, 7, nullptr);
+	EXPECT_EQ(name.count(), 65534);
+	EXPECT_EQ(name.length, 6u + 12 * 65534);
+	name.set_field(2, 0, 0, 7, "new");
+	EXPECT_EQ(name.count(), 65534);
 }
 
 
