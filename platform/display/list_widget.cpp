@@ -21,6 +21,33 @@ namespace {
 constexpr int margin = 3;
 
 
+// Keeps its text in UTF-8, in half the room: a list may have many thousands of rows.
+class row_item : public QListWidgetItem {
+public:
+	explicit row_item(const QString& text) : fText(text.toStdString()) {}
+
+	QVariant data(int role) const override
+	{
+		return role == Qt::DisplayRole ? QString::fromStdString(fText)
+									   : QListWidgetItem::data(role);
+	}
+
+	void setData(int role, const QVariant& value) override
+	{
+		if (role != Qt::DisplayRole) {
+			QListWidgetItem::setData(role, value);
+			return;
+		}
+		fText = value.toString().toStdString();
+		if (listWidget())
+			listWidget()->viewport()->update();
+	}
+
+private:
+	std::string fText;
+};
+
+
 class row_delegate : public QStyledItemDelegate {
 public:
 	using QStyledItemDelegate::QStyledItemDelegate;
@@ -107,7 +134,7 @@ list_widget::insert(int row, const QString& text, int32 serial)
 {
 	fSerial = serial;
 	fQuiet = true;
-	insertItem(row, text);
+	insertItem(row, new row_item(text));
 	fQuiet = false;
 }
 
