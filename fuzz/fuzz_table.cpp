@@ -45,7 +45,8 @@ static std::vector<name_entry>
 names_of(const ttf_name& name)
 {
 	std::vector<name_entry> found((size_t)name.count());
-	std::string text(200000, '\0');
+	// No byte becomes more than three.
+	std::string text(3 * (size_t)name.length + 1, '\0');
 	for (size_t i = 0; i < found.size(); i++) {
 		unsigned short* ids = found[i].ids;
 		long length = (long)text.size();
