@@ -202,9 +202,6 @@ ttf_gasp::pressed(const void* source)
 		// What is no number is size 0, which makes no record.
 		if (!read_hex(pt, &size))
 			size = 0;
-		// The 16 bits of a larger number are another size.
-		if (size < 0 || size > 0xFFFF)
-			return;
 		const int behavior =
 			(gridfit->Value() ? use_gridfitting : 0) | (grayscale->Value() ? use_grayscale : 0);
 		set_field(-1, (uint16)size, (uint16)behavior);
