@@ -58,9 +58,9 @@ public:
 
 	// Reads a TrueType file into an empty font: 0, or 1 with the font empty again. Refused are a
 	// version other than 1.0, a directory cut short, a font without cmap, more than sixteen tables
-	// that are not modelled, and lengths out of all proportion to the file. A table that runs past
-	// the end of the file keeps what could be read and zeros after it. Stored checksums are not
-	// examined. The character map is read.
+	// that are not modelled, lengths out of all proportion to the file, and bytes that the file has
+	// but that cannot be read. A table that runs past the end of the file keeps what could be read
+	// and zeros after it. Stored checksums are not examined. The character map is read.
 	int load(BFile& file);
 
 	// Writes the font, in the order of its directory: 0, or 1 with nothing written for a font

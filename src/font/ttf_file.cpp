@@ -17,18 +17,20 @@ static const uint64 length_slack = 1 << 20;
 static const uint64 most_shared = 32;
 
 
-// Reads size bytes from a place in the file; what the file does not have is zero.
-static void
+// Reads size bytes from a place in the file; what the file does not have is zero. False when the
+// bytes are there but cannot be read: saved over the file, zeros in their place would destroy them.
+static bool
 read_all(BFile& file, uint32 place, unsigned char* buffer, uint32 size)
 {
 	uint32 done = 0;
-	while (done < size) {
-		ssize_t got = file.ReadAt((off_t)place + done, buffer + done, size - done);
-		if (got <= 0)
-			break;
-		done += (uint32)got;
+	ssize_t got = 1;
+	while (done < size && got > 0) {
+		got = file.ReadAt((off_t)place + done, buffer + done, size - done);
+		if (got > 0)
+			done += (uint32)got;
 	}
 	memset(buffer + done, 0, size - done);
+	return got >= 0;
 }
 
 
@@ -99,8 +101,7 @@ bool
 ttf::load_dir(BFile& file)
 {
 	unsigned char header[header_size];
-	read_all(file, 0, header, header_size);
-	if (get32(header) != sfnt_version)
+	if (!read_all(file, 0, header, header_size) || get32(header) != sfnt_version)
 		return false;
 	int size = header_size + entry_size * get16(header + at_numtables);
 	dir = malloc32(size);
@@ -147,7 +148,10 @@ ttf::load_table(BFile& file, const unsigned char* record)
 	if (buffer == nullptr)
 		return false;
 	// Exactly the table's bytes: what follows in the file need not be padding.
-	read_all(file, get32(record + at_place), buffer, length);
+	if (!read_all(file, get32(record + at_place), buffer, length)) {
+		delete[] buffer;
+		return false;
+	}
 	return adopt(get32(record), buffer, length);
 }
 
