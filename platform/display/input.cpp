@@ -19,6 +19,7 @@
 #include <QScreen>
 #include <QUrl>
 #include <QWidget>
+#include <sys/stat.h>
 #include <View.h>
 
 using namespace kits;
@@ -146,6 +147,20 @@ post_wheel(int32 looper, const QWidget& widget, const QWheelEvent& event)
 	post_to(looper, message);
 }
 
+
+// Empty for what is no file of this machine. Not by way of a QString: the name of a file is bytes,
+// which need not be text.
+QByteArray
+path_of(const QUrl& url)
+{
+	const QString host = url.host();
+	if (!url.isLocalFile() || (!host.isEmpty() && host != "localhost"))
+		return {};
+	const QByteArray path =
+		QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+	return path.contains('\0') ? QByteArray() : path;
+}
+
 }
 
 
@@ -209,9 +224,10 @@ kits::post_drop(int32 looper, const QWidget& window, const QDropEvent& event)
 {
 	BMessage message(B_SIMPLE_DATA);
 	for (const QUrl& url : event.mimeData()->urls()) {
+		const QByteArray path = path_of(url);
+		struct stat found;
 		entry_ref ref;
-		QByteArray path = url.toLocalFile().toUtf8();
-		if (url.isLocalFile() && get_ref_for_path(path.constData(), &ref) == B_OK)
+		if (stat(path.constData(), &found) == 0 && get_ref_for_path(path.constData(), &ref) == B_OK)
 			message.AddRef("refs", &ref);
 	}
 	if (message.IsEmpty())

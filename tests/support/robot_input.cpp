@@ -191,7 +191,8 @@ robot::drop(BPoint where, const std::vector<std::string>& paths)
 		QMimeData data;
 		QList<QUrl> urls;
 		for (const std::string& path : paths)
-			urls.append(QUrl::fromLocalFile(QString::fromStdString(path)));
+			urls.append(QUrl::fromEncoded(
+				"file://" + QByteArray::fromStdString(path).toPercentEncoding("/")));
 		if (urls.isEmpty())
 			data.setText("no files");
 		else

@@ -3,11 +3,13 @@
 
 // Files that are let go of over a window.
 #include "platform/interface/form.h"
+#include "platform/storage/stored.h"
 #include "support/temp_files.h"
 
 #include <gtest/gtest.h>
 
 #include <AppDefs.h>
+#include <filesystem>
 #include <Path.h>
 #include <QCoreApplication>
 #include <QDragEnterEvent>
@@ -81,7 +83,7 @@ drop_urls(robot& user, BPoint where, const std::vector<const char*>& urls)
 		QMimeData data;
 		QList<QUrl> list;
 		for (const char* url : urls)
-			list.append(QUrl(url));
+			list.append(QUrl::fromEncoded(url));
 		data.setUrls(list);
 		QDragEnterEvent enter(
 			QPoint((int)where.x, (int)where.y), Qt::CopyAction, &data, Qt::LeftButton, {});
@@ -252,5 +254,54 @@ TEST(drop, of_files_among_other_things_brings_the_files)
 			ASSERT_EQ(view.dropped.size(), 1u);
 			EXPECT_EQ(paths_in(view.dropped[0]), journal{file.path()});
 		});
+	});
+}
+
+
+TEST(drop, brings_files_whose_names_are_not_UTF_8)
+{
+	temp_folder folder;
+	make_folder(folder.path("d\xE9p\xF4t"));
+	const std::string path = folder.path("d\xE9p\xF4t/caf\xE9 100%# \xFF.ttf");
+	write_file(path, {});
+	with_window([&](test_window& window, robot& user) {
+		auto& view = window.add(new taker(BRect(0, 0, 199, 99)));
+		user.drop(BPoint(50, 60), {path});
+		window.locked([&] {
+			ASSERT_EQ(view.dropped.size(), 1u);
+			EXPECT_EQ(paths_in(view.dropped[0]), journal{path});
+		});
+	});
+}
+
+
+TEST(drop, leaves_out_what_does_not_exist)
+{
+	temp_folder folder;
+	write_file(folder.path("here"), {});
+	std::filesystem::create_symlink("nowhere", folder.path("link"));
+	with_window([&](test_window& window, robot& user) {
+		auto& view = window.add(new taker(BRect(0, 0, 199, 99)));
+		user.drop(BPoint(50, 60), {folder.path("gone"), folder.path("here"), folder.path("link")});
+		user.drop(BPoint(50, 60), {folder.path("gone")});
+		window.locked([&] {
+			ASSERT_EQ(view.dropped.size(), 1u);
+			EXPECT_EQ(paths_in(view.dropped[0]), journal{folder.path("here")});
+		});
+	});
+}
+
+
+TEST(drop, of_files_of_another_machine_or_with_a_NUL_in_the_name_is_none)
+{
+	temp_file file;
+	const std::string path = file.path();
+	with_window([&](test_window& window, robot& user) {
+		auto& view = window.add(new taker(BRect(0, 0, 199, 99)));
+		drop_urls(user, BPoint(50, 60), {("file://elsewhere" + path).c_str()});
+		drop_urls(user, BPoint(50, 60), {("file://" + path + "%00.ttf").c_str()});
+		window.locked([&] { EXPECT_EQ(view.dropped.size(), 0u); });
+		drop_urls(user, BPoint(50, 60), {("file://localhost" + path).c_str()});
+		window.locked([&] { EXPECT_EQ(view.dropped.size(), 1u); });
 	});
 }
