@@ -27,14 +27,15 @@ public:
 	// `file` is a new, empty one in its stead. The old one keeps its contents until `file` is closed,
 	// for good when a write failed (see BFile) or the process ends before; then the new one replaces
 	// it all at once. What is not closed yet is seen through `file` only. The new file has the old
-	// one's permission bits, its extended attributes, and its owner and group if the user may give
-	// them; without the old group, that has no more rights than everybody. A link stays and the file
-	// it leads to is replaced, but other names of the old file (hard links) keep the old contents.
-	// Nothing is forced to the disk: what a failure of the machine leaves is not told.
+	// one's owner, group, permission bits and access list, and its extended attributes as far as the
+	// file system takes them. A link stays and the file it leads to is replaced, but other names of the
+	// old file (hard links) keep the old contents. Nothing is forced to the disk: what a failure of the
+	// machine leaves is not told.
 	//
-	// Emptied at once and written itself, as long as the user may write to it, is a file whose folder
-	// takes no new one or does not let it be replaced. What is no regular file is just opened. When
-	// there is no space to begin with the call fails and the old file stays.
+	// Where the new file cannot have all those rights or cannot replace the old one, closing writes the
+	// new contents into the old file. Where that fails too, they stay in the folder under a name that
+	// starts with ".new-". What is no regular file is just opened. When there is no space to begin with
+	// the call fails and the old file stays.
 	//
 	// A file under a new name is written where it is: what a failed write leaves of it stays.
 	status_t CreateFile(const char* name, BFile* file, bool failIfExists = false);

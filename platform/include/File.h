@@ -8,13 +8,12 @@
 #include <Node.h>
 #include <StorageDefs.h>
 
-// An open file. Opening never waits, whatever the path names; a directory does not open, not even
-// for reading. There is no Close(): Unset(), the destructor and opening another one close.
+// An open file. Opening waits for nobody but a program that holds the file for itself, which is told to
+// give it up and has a minute. A directory does not open, not even for reading. There is no Close(): Unset(), the destructor and opening another one close.
 //
-// A file that BDirectory::CreateFile() opened in place of an old one is a new one, without a name
-// until it is closed: then it takes the old one's. When a Write(), WriteAt() or SetSize() failed or
-// moved fewer bytes than it was told to, the file is dropped instead and the old one stays. So it
-// does when the system does not let the new one have the name; nothing tells.
+// A file that BDirectory::CreateFile() opened in place of an old one is a new one until it is closed:
+// then it takes the old one's name. When a Write(), WriteAt() or SetSize() failed or moved fewer bytes
+// than it was told to, the file is dropped instead and the old one stays; nothing tells.
 //
 // Everything below fails with B_NO_INIT when the file is not open.
 class BFile : public BNode, public BPositionIO {
@@ -51,8 +50,8 @@ private:
 
 	status_t OpenFile(int from, const char* path, uint32 openMode);
 
-	// Opens a new file that will replace the one at `path`, or that one, emptied, where it cannot be
-	// replaced. The target of a link that leads nowhere is made.
+	// Opens a new file that will replace the one at `path`. What is no regular file is opened itself,
+	// and the target of a link that leads nowhere is made.
 	status_t OpenAnew(int from, const char* path);
 
 	// Returns `moved`, the answer of a call that was to write `size` bytes, and notes a failure.

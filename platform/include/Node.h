@@ -36,8 +36,11 @@ protected:
 	// Closes what is open and keeps the reason.
 	status_t Fail(status_t reason);
 
-	// Closes the old file that is open and works on the new one instead, until that is closed.
+	// Closes what is open and works on the new file, until that is closed.
 	void Replace(std::unique_ptr<kits::replacement> made);
+
+	// Lets go of the descriptor, which is the caller's then. Not while a file is being replaced.
+	int Release();
 
 	// What is being written will not be whole: if it was to replace an old file, that one stays.
 	void Spoil();
@@ -46,6 +49,9 @@ protected:
 
 private:
 	friend class BNodeInfo;
+
+	// The contents of a file may be on their way somewhere else than its attributes.
+	int AttributeDescriptor() const;
 
 	int fDescriptor = -1; // owned, or the replacement's
 	std::unique_ptr<kits::replacement> fReplacement;

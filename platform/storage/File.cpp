@@ -1,12 +1,12 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
+#include "storage/descriptor.h"
 #include "storage/errno_status.h"
 #include "storage/ref_paths.h"
 #include "storage/replacement.h"
 #include <File.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
@@ -16,6 +16,9 @@
 namespace {
 
 constexpr uint32 open_modes = O_ACCMODE | O_CREAT | O_EXCL | O_TRUNC | O_APPEND;
+
+// How often a file that another program replaces just then is opened again.
+constexpr int tries = 8;
 
 
 // Repeats `step`, which moves bytes from the given offset on and answers like read(), until all is
@@ -66,9 +69,15 @@ BFile::BFile(const char* path, uint32 openMode)
 status_t
 BFile::SetTo(const entry_ref* ref, uint32 openMode)
 {
-	std::string path;
-	const status_t status = ref == nullptr ? B_BAD_VALUE : path_of_ref(*ref, &path);
-	return status == B_OK ? OpenFile(AT_FDCWD, path.c_str(), openMode) : Fail(status);
+	std::string folder;
+	std::string leaf;
+	const status_t status = ref == nullptr ? B_BAD_VALUE : place_of_ref(*ref, &folder, &leaf);
+	if (status != B_OK) {
+		return Fail(status);
+	}
+	// In two steps: together they may be longer than a path can be.
+	const kits::descriptor at(open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+	return at ? OpenFile(at.get(), leaf.c_str(), openMode) : Fail(status_of_errno(errno));
 }
 
 
@@ -219,21 +228,39 @@ BFile::OpenFile(int from, const char* path, uint32 openMode)
 status_t
 BFile::OpenAnew(int from, const char* path)
 {
-	struct stat st = {};
-	const bool exists = fstatat(from, path, &st, 0) == 0;
-	status_t status =
-		OpenFile(from, path, B_READ_WRITE | B_CREATE_FILE | (exists ? 0 : B_ERASE_FILE));
-	if (status != B_OK || !exists) {
-		return status;
+	status_t status = B_OK;
+	for (int i = 0; i < tries; i++) {
+		status = OpenFile(from, path, B_READ_WRITE);
+		// A link that leads nowhere, or the file has gone just now.
+		const bool absent = status == B_ENTRY_NOT_FOUND;
+		if (absent) {
+			status = OpenFile(from, path, B_READ_WRITE | B_CREATE_FILE);
+		}
+		struct stat st = {};
+		if (status == B_OK) {
+			status = GetStat(&st);
+		}
+		if (status != B_OK) {
+			break;
+		}
+		// What is there all the same is kept: an error of the disk may look like an absence.
+		if (!S_ISREG(st.st_mode) || (absent && st.st_size == 0)) {
+			return B_OK;
+		}
+		// There are paths that lead to no place, as that of a file that has no name any more.
+		std::unique_ptr<kits::replacement> made;
+		const bool last = i == tries - 1;
+		status = kits::replacement::begin(
+			from, last ? nullptr : path, kits::descriptor(Release()), &made);
+		if (made != nullptr) {
+			Replace(std::move(made));
+			return B_OK;
+		}
+		if (status != B_OK) {
+			break;
+		}
 	}
-	std::unique_ptr<kits::replacement> made;
-	status = kits::replacement::begin(Descriptor(), &made);
-	if (made != nullptr) {
-		Replace(std::move(made));
-	} else if (status == B_OK && IsFile()) {
-		status = SetSize(0);
-	}
-	return status == B_OK ? B_OK : Fail(status);
+	return Fail(status);
 }
 
 

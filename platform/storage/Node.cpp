@@ -5,14 +5,41 @@
 #include <Node.h>
 
 #include <cerrno>
+#include <chrono>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
 namespace {
 
 constexpr mode_t new_file_mode = 0666; // less what the user's mask takes away
+
+// Somebody who holds a file for himself, as a file server does for a client, is told to give it up
+// when it is opened, and has less time for that.
+constexpr std::chrono::seconds patience(60);
+constexpr std::chrono::milliseconds pause(10);
+
+
+int
+open_at(int from, const char* path, int flags)
+{
+	const auto end = std::chrono::steady_clock::now() + patience;
+	for (;;) {
+		const int opened = openat(from, path, flags, new_file_mode);
+		if (opened >= 0) {
+			return opened;
+		}
+		if (errno == EWOULDBLOCK && std::chrono::steady_clock::now() < end) {
+			std::this_thread::sleep_for(pause);
+			continue;
+		}
+		if (errno != EINTR) {
+			return opened;
+		}
+	}
+}
 
 }
 
@@ -65,9 +92,7 @@ status_t
 BNode::Open(int from, const char* path, int flags)
 {
 	Unset();
-	do {
-		fDescriptor = openat(from, path, flags | O_CLOEXEC, new_file_mode);
-	} while (fDescriptor < 0 && errno == EINTR);
+	fDescriptor = open_at(from, path, flags | O_CLOEXEC);
 	return fStatus = fDescriptor < 0 ? status_of_errno(errno) : B_OK;
 }
 
@@ -85,8 +110,17 @@ BNode::Replace(std::unique_ptr<kits::replacement> made)
 {
 	Unset();
 	fReplacement = std::move(made);
-	fDescriptor = fReplacement->descriptor();
+	fDescriptor = fReplacement->contents();
 	fStatus = B_OK;
+}
+
+
+int
+BNode::Release()
+{
+	const int descriptor = std::exchange(fDescriptor, -1);
+	Unset();
+	return descriptor;
 }
 
 
@@ -96,4 +130,11 @@ BNode::Spoil()
 	if (fReplacement != nullptr) {
 		fReplacement->spoil();
 	}
+}
+
+
+int
+BNode::AttributeDescriptor() const
+{
+	return fReplacement != nullptr ? fReplacement->file() : fDescriptor;
 }

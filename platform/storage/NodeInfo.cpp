@@ -33,7 +33,7 @@ BNodeInfo::SetType(const char* type)
 	if (InitCheck() != B_OK) {
 		return B_NO_INIT;
 	}
-	const int descriptor = fNode->Descriptor();
+	const int descriptor = fNode->AttributeDescriptor();
 	if (type == nullptr) {
 		return fremovexattr(descriptor, type_attribute) == 0 ? B_OK : status_of_errno(errno);
 	}
@@ -56,7 +56,7 @@ BNodeInfo::GetType(char* type) const
 		return B_BAD_VALUE;
 	}
 	char value[B_MIME_TYPE_LENGTH] = {};
-	if (fgetxattr(fNode->Descriptor(), type_attribute, value, sizeof(value) - 1) < 0) {
+	if (fgetxattr(fNode->AttributeDescriptor(), type_attribute, value, sizeof(value) - 1) < 0) {
 		return status_of_errno(errno);
 	}
 	strcpy(type, value);

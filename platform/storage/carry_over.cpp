@@ -4,7 +4,10 @@
 
 #include <cerrno>
 #include <cstring>
-#include <string_view>
+#include <iterator>
+#include <optional>
+#include <set>
+#include <string>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/xattr.h>
@@ -18,62 +21,154 @@ namespace {
 // The most that the system hands out, of names and of a value.
 constexpr size_t attribute_bytes = 65536;
 
-constexpr const char* access_list = "system.posix_acl_access";
-
 constexpr mode_t permissions = 07777;
+
+// Stands for every owner and group that this process's view of the users has no number for.
+constexpr uid_t nobody_known = 65534;
+
+// Access lists, which not every file system mentions among the attributes.
+constexpr const char* access_lists[] = {"system.posix_acl_access", "system.cifs_acl"};
+
+using value = std::optional<std::string>;
+using name_set = std::set<std::string>;
 
 
 // These vouch for the contents, which will be others.
 bool
-vouches_for_contents(std::string_view name)
+vouches_for_contents(const std::string& name)
 {
 	return name == "security.capability" || name == "security.evm" || name == "security.ima";
 }
 
 
-void
-copy_attribute(int from, int to, const char* name, std::vector<char>& room)
+// Access lists and the labels by which the system decides who may do what.
+bool
+is_of_rights(const std::string& name)
 {
-	const ssize_t length = fgetxattr(from, name, room.data(), room.size());
-	if (length >= 0) {
-		// One that cannot be set is lost, as it is with every copy to such a file system.
-		[[maybe_unused]] const int set =
-			fsetxattr(to, name, room.data(), static_cast<size_t>(length), 0);
-	}
+	return name.starts_with("system.") || name.starts_with("security.");
 }
 
 
-void
-copy_attributes(int from, int to)
+bool
+means_none(int error)
 {
-	// A new file takes the list that its folder keeps for new ones. The old one may have had none.
-	fremovexattr(to, access_list);
-	std::vector<char> names(attribute_bytes);
+	return error == ENODATA || error == EOPNOTSUPP || error == ENOSYS;
+}
+
+
+int
+list_names(int file, name_set* names)
+{
 	std::vector<char> room(attribute_bytes);
-	const ssize_t listed = flistxattr(from, names.data(), names.size());
-	const char* const end = names.data() + (listed < 0 ? 0 : listed);
-	for (const char* name = names.data(); name < end; name += strlen(name) + 1) {
-		if (!vouches_for_contents(name)) {
-			copy_attribute(from, to, name, room);
+	const ssize_t listed = flistxattr(file, room.data(), room.size());
+	if (listed < 0) {
+		return means_none(errno) ? 0 : errno;
+	}
+	const char* const end = room.data() + listed;
+	for (const char* name = room.data(); name < end; name += strlen(name) + 1) {
+		names->insert(name);
+	}
+	return 0;
+}
+
+
+int
+get_value(int file, const std::string& name, value* result)
+{
+	std::vector<char> room(attribute_bytes);
+	const ssize_t length = fgetxattr(file, name.c_str(), room.data(), room.size());
+	if (length < 0) {
+		result->reset();
+		return means_none(errno) ? 0 : errno;
+	}
+	*result = std::string(room.data(), static_cast<size_t>(length));
+	return 0;
+}
+
+
+// Of a file that has mentioned these names.
+int
+get_value(int file, const std::string& name, const name_set& mentioned, value* result)
+{
+	const int error = get_value(file, name, result);
+	// One that is there and yet is not may say anything.
+	return error == 0 && !*result && mentioned.contains(name) ? EPERM : error;
+}
+
+
+int
+set_value(int file, const std::string& name, const value& wanted)
+{
+	const int result = wanted ? fsetxattr(file, name.c_str(), wanted->data(), wanted->size(), 0)
+							  : fremovexattr(file, name.c_str());
+	return result == 0 ? 0 : errno;
+}
+
+
+// Gives `to` what `from` has under the name, or takes it away.
+int
+copy_attribute(int to, const std::string& name, const value& wanted)
+{
+	const int error = set_value(to, name, wanted);
+	if (error != 0) {
+		return error;
+	}
+	// A server may make something else of it.
+	value given;
+	const int unknown = get_value(to, name, &given);
+	return unknown != 0 ? unknown : given == wanted ? 0 : EPERM;
+}
+
+
+int
+copy_rights(int from, int to)
+{
+	name_set wanted_names;
+	name_set given_names;
+	int error = list_names(from, &wanted_names);
+	if (error == 0) {
+		error = list_names(to, &given_names);
+	}
+	// A new file has what its folder keeps for new ones. The old one may have had none.
+	name_set names(std::begin(access_lists), std::end(access_lists));
+	names.insert(wanted_names.begin(), wanted_names.end());
+	names.insert(given_names.begin(), given_names.end());
+	for (const std::string& name : names) {
+		if (error != 0 || !is_of_rights(name) || vouches_for_contents(name)) {
+			continue;
+		}
+		value wanted;
+		value given;
+		error = get_value(from, name, wanted_names, &wanted);
+		if (error == 0) {
+			error = get_value(to, name, given_names, &given);
+		}
+		if (error == 0 && given != wanted) {
+			error = copy_attribute(to, name, wanted);
 		}
 	}
+	return error;
 }
 
 
-// As much of the old mode as the owner and group that the new file got may have.
-mode_t
-fitting_mode(const struct stat& old, const struct stat& made)
+int
+give_owner(int to, const struct stat& wanted, const struct stat& made)
 {
-	mode_t mode = old.st_mode & permissions;
-	if (made.st_uid != old.st_uid) {
-		mode &= ~static_cast<mode_t>(S_ISUID);
+	const bool user = made.st_uid != wanted.st_uid;
+	const bool group = made.st_gid != wanted.st_gid;
+	// Somebody without a number cannot be given anything; the number may be another's, too.
+	if ((user && wanted.st_uid == nobody_known) || (group && wanted.st_gid == nobody_known)) {
+		return EPERM;
 	}
-	if (made.st_gid != old.st_gid) {
-		// Another group had no more than everybody's rights; those of the old group are not its.
-		const mode_t everybody = (mode & S_IRWXO) << 3;
-		mode &= ~static_cast<mode_t>(S_ISGID | (S_IRWXG & ~everybody));
-	}
-	return mode;
+	return (!user && !group) || fchown(to, wanted.st_uid, wanted.st_gid) == 0 ? 0 : errno;
+}
+
+
+bool
+same_rights(const struct stat& one, const struct stat& other)
+{
+	return one.st_uid == other.st_uid && one.st_gid == other.st_gid
+		&& (one.st_mode & permissions) == (other.st_mode & permissions);
 }
 
 }
@@ -82,25 +177,45 @@ fitting_mode(const struct stat& old, const struct stat& made)
 int
 carry_over(int from, int to)
 {
-	struct stat old = {};
+	struct stat wanted = {};
 	struct stat made = {};
-	if (fstat(from, &old) != 0) {
+	if (fstat(from, &wanted) != 0 || fstat(to, &made) != 0) {
 		return errno;
 	}
-	// First of all: it takes away bits of the mode. Only the administrator may change the owner.
-	if (fchown(to, old.st_uid, old.st_gid) != 0) {
-		[[maybe_unused]] const int group = fchown(to, static_cast<uid_t>(-1), old.st_gid);
+	// The mode comes last: its group bits mean the group only when there is no access list.
+	int error = give_owner(to, wanted, made);
+	if (error == 0) {
+		error = copy_rights(from, to);
 	}
-	copy_attributes(from, to);
+	if (error != 0) {
+		return error;
+	}
+	carry_over_remarks(from, to);
 	if (fstat(to, &made) != 0) {
 		return errno;
 	}
-	const mode_t mode = fitting_mode(old, made);
 	// Not every file system can change the mode, but there all files have the same.
-	if (mode == (made.st_mode & permissions)) {
-		return 0;
+	if (!same_rights(made, wanted)
+		&& (fchmod(to, wanted.st_mode & permissions) != 0 || fstat(to, &made) != 0)) {
+		return errno;
 	}
-	return fchmod(to, mode) == 0 ? 0 : errno;
+	// The system may leave out bits without a word.
+	return same_rights(made, wanted) ? 0 : EPERM;
+}
+
+
+void
+carry_over_remarks(int from, int to)
+{
+	name_set names;
+	list_names(from, &names);
+	for (const std::string& name : names) {
+		value wanted;
+		// One that cannot be set is lost, as it is with every copy to such a file system.
+		if (!is_of_rights(name) && get_value(from, name, &wanted) == 0 && wanted) {
+			set_value(to, name, wanted);
+		}
+	}
 }
 
 }

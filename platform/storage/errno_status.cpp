@@ -45,3 +45,33 @@ status_of_errno(int error)
 			return B_ERROR;
 	}
 }
+
+
+bool
+kits::is_refusal(int error)
+{
+	switch (error) {
+		case EACCES:
+		case EPERM:
+		case EROFS:
+		case EBUSY:
+		case ETXTBSY:
+		case EEXIST: // a name that cannot be taken from who has it
+		case EINVAL: // the system has no number for the owner, or no such call
+		case ENOSYS:
+		case EOPNOTSUPP:
+		case EXDEV:
+		case ENOENT:
+		case ENAMETOOLONG:
+			return true;
+		default:
+			return false;
+	}
+}
+
+
+bool
+kits::is_full(int error)
+{
+	return error == ENOSPC || error == EDQUOT;
+}

@@ -46,26 +46,39 @@ remember_directory(dev_t device, ino_t directory, const std::string& path)
 
 
 status_t
-path_of_ref(const entry_ref& ref, std::string* path)
+place_of_ref(const entry_ref& ref, std::string* folder, std::string* leaf)
 {
 	if (ref.name == nullptr || ref.name[0] == '\0') {
 		return B_BAD_VALUE;
 	}
-	const std::string name = ref.name;
-	if (name[0] == '/') {
-		*path = name;
-		return B_OK;
-	}
-	const std::string folder = seen_path(ref.device, ref.directory);
+	std::string seen = ref.name[0] == '/' ? "/" : seen_path(ref.device, ref.directory);
 	struct stat st = {};
-	if (folder.empty() || stat(folder.c_str(), &st) != 0 || st.st_dev != ref.device
-		|| st.st_ino != ref.directory) {
+	if (ref.name[0] != '/'
+		&& (seen.empty() || stat(seen.c_str(), &st) != 0 || st.st_dev != ref.device
+			|| st.st_ino != ref.directory)) {
 		return B_ENTRY_NOT_FOUND;
 	}
-	if (name == ".") {
+	*folder = std::move(seen);
+	*leaf = ref.name;
+	return B_OK;
+}
+
+
+status_t
+path_of_ref(const entry_ref& ref, std::string* path)
+{
+	std::string folder;
+	std::string leaf;
+	const status_t status = place_of_ref(ref, &folder, &leaf);
+	if (status != B_OK) {
+		return status;
+	}
+	if (leaf[0] == '/') {
+		*path = leaf;
+	} else if (leaf == ".") {
 		*path = folder;
 	} else {
-		*path = folder == "/" ? folder + name : folder + "/" + name;
+		*path = folder == "/" ? folder + leaf : folder + "/" + leaf;
 	}
 	return B_OK;
 }

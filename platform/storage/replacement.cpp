@@ -3,13 +3,16 @@
 #include "storage/replacement.h"
 
 #include "storage/carry_over.h"
+#include "storage/contents.h"
 #include "storage/errno_status.h"
+#include "storage/place.h"
 
 #include <cerrno>
-#include <climits>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
-#include <random>
+#include <filesystem>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -21,18 +24,8 @@ namespace {
 constexpr int new_file = O_RDWR | O_CLOEXEC;
 constexpr mode_t nobody_else = 0600; // until the old file's mode is carried over
 
-// Names are drawn from 2^64: a second try is rare, more tell of another trouble.
+// Two processes rarely draw the same name: a second try is rare, more tell of another trouble.
 constexpr int tries = 16;
-
-
-// What other folders and files have no more of either. Any other error says that this folder takes
-// no new file.
-bool
-is_shortage(int error)
-{
-	return error == ENOSPC || error == EDQUOT || error == EIO || error == ENOMEM || error == EMFILE
-		|| error == ENFILE;
-}
 
 
 std::string
@@ -42,31 +35,35 @@ link_to(int descriptor)
 }
 
 
+// Whether it is free, the folder says. So nothing that can fail, as a source of chance can, is asked.
 std::string
-random_name()
+hidden_name(int attempt)
 {
-	std::random_device random;
+	const auto now = std::chrono::system_clock::now().time_since_epoch().count();
+	const auto process = static_cast<uint64_t>(getpid()) << 40;
 	char name[32];
-	snprintf(name, sizeof(name), ".new-%08x%08x", random(), random());
+	snprintf(name, sizeof(name), ".new-%016llx",
+		static_cast<unsigned long long>(
+			(static_cast<uint64_t>(now) ^ process) + static_cast<uint64_t>(attempt)));
 	return name;
 }
 
 
 // Calls `step` with one name after the other until it answers otherwise than that the name is taken.
-// Returns its last answer, which is that of a system call.
+// Returns 0 or the error number of a system call.
 template <class Step>
 int
 with_free_name(Step step, std::string* name)
 {
-	int answer = -1;
-	for (int i = 0; i < tries; i++) {
-		*name = random_name();
-		answer = step(name->c_str());
-		if (answer >= 0 || (errno != EEXIST && errno != EINTR)) {
-			break;
-		}
+	int error = EEXIST;
+	for (int i = 0; i < tries && (error == EEXIST || error == EINTR); i++) {
+		*name = hidden_name(i);
+		error = step(name->c_str()) < 0 ? errno : 0;
 	}
-	return answer;
+	if (error != 0) {
+		name->clear();
+	}
+	return error;
 }
 
 
@@ -78,49 +75,52 @@ is_same(const struct statx& one, const struct statx& other)
 }
 
 
-// In a folder of this kind, as /tmp is, everybody may make files, but only the owners and the
-// administrator may replace one.
-bool
-sticks(const struct statx& folder, const struct statx& file)
+int
+state_of(int folder, const char* leaf, struct statx* state)
 {
-	const uid_t user = geteuid();
-	return (folder.stx_mode & S_ISVTX) != 0 && user != 0 && user != folder.stx_uid
-		&& user != file.stx_uid;
+	const int flags = leaf[0] == '\0' ? AT_EMPTY_PATH : AT_SYMLINK_NOFOLLOW;
+	return statx(folder, leaf, flags, STATX_BASIC_STATS, state) == 0 ? 0 : errno;
+}
+
+
+descriptor
+folder_for_passing_files()
+{
+	std::error_code error;
+	const std::string path = std::filesystem::temp_directory_path(error).string();
+	return descriptor(error ? -1 : open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
 }
 
 }
 
 
 status_t
-replacement::begin(int old, std::unique_ptr<replacement>* result, way first)
+replacement::begin(
+	int from, const char* path, descriptor old, std::unique_ptr<replacement>* result, way first)
 {
 	result->reset();
-	std::unique_ptr<replacement> made(new replacement);
-	int error = made->find(old);
-	if (error == 0) {
-		error = made->replaceable(old);
+	std::unique_ptr<replacement> made(new replacement(std::move(old)));
+	int error = path == nullptr ? 0 : made->find(from, path);
+	// What another machine has replaced is stale.
+	if (is_refusal(error) || error == ESTALE || error == EINTR) {
+		return B_OK;
 	}
 	if (error == 0) {
 		error = made->make(first);
 	}
-	if (error == 0) {
-		error = carry_over(old, made->fDescriptor);
+	if (error != 0) {
+		return status_of_errno(error);
 	}
-	if (error == 0) {
-		*result = std::move(made);
-	}
-	return is_shortage(error) ? status_of_errno(error) : B_OK;
+	*result = std::move(made);
+	return B_OK;
 }
 
 
 replacement::~replacement()
 {
-	if (fDescriptor >= 0) {
+	if (fNew) {
 		spoil();
 		close();
-	}
-	if (fFolder >= 0) {
-		::close(fFolder);
 	}
 }
 
@@ -128,105 +128,222 @@ replacement::~replacement()
 void
 replacement::close()
 {
-	if (!fSpoilt && fHidden.empty() && !give_name()) {
-		spoil();
-	}
-	// A file system on another machine may only now tell that it could not keep the bytes.
-	if (::close(fDescriptor) != 0) {
-		spoil();
-	}
-	fDescriptor = -1;
-	if (!fSpoilt && renameat(fFolder, fHidden.c_str(), fFolder, fLeaf.c_str()) == 0) {
+	if (fSpoilt) {
+		drop();
 		return;
 	}
-	if (!fHidden.empty()) {
-		unlinkat(fFolder, fHidden.c_str(), 0);
+	// The new contents have no other place to be: what has failed once may succeed.
+	const int unnamed = fHidden.empty() && name() != 0 ? name() : 0;
+	bool done = false;
+	// A file system on another machine may only now tell that it could not keep the bytes.
+	if (is_kept()) {
+		const int refused = fInPlace ? EPERM : unnamed != 0 ? unnamed : take_name();
+		done = refused == 0 || ((is_refusal(refused) || is_full(refused)) && write_old() == 0);
 	}
+	if (done) {
+		drop();
+	}
+	fNew.close();
 }
 
 
-// Links are followed: the system knows where the file that it has opened lies.
+// Finds out where the old file lies. ENOENT: not where the path leads to now.
 int
-replacement::find(int old)
+replacement::find(int from, const std::string& path)
 {
-	char buffer[PATH_MAX];
-	const ssize_t length = readlink(link_to(old).c_str(), buffer, sizeof(buffer));
-	if (length < 0) {
-		return errno;
-	}
-	const std::string path(buffer, static_cast<size_t>(length));
-	const size_t slash = path.rfind('/');
-	if (slash == std::string::npos) {
-		return ENOENT;
-	}
-	fLeaf = path.substr(slash + 1);
-	fFolder = open(path.substr(0, slash + 1).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-	return fFolder >= 0 ? 0 : errno;
-}
-
-
-// The path that the system tells may be out of date, or one of another process's view of the disk.
-int
-replacement::replaceable(int old) const
-{
-	struct statx folder = {};
-	struct statx file = {};
+	place found;
+	struct statx old = {};
 	struct statx there = {};
-	if (statx(fFolder, "", AT_EMPTY_PATH, STATX_BASIC_STATS, &folder) != 0
-		|| statx(old, "", AT_EMPTY_PATH, STATX_BASIC_STATS, &file) != 0
-		|| statx(fFolder, fLeaf.c_str(), AT_SYMLINK_NOFOLLOW, STATX_BASIC_STATS, &there) != 0) {
-		return errno;
+	int error = find_place(from, path, &found);
+	if (error == 0) {
+		error = state_of(fOld.get(), "", &old);
 	}
-	if (!S_ISREG(file.stx_mode) || !is_same(file, there)) {
-		return ENOENT;
+	if (error == 0) {
+		error = state_of(found.folder.get(), found.leaf.c_str(), &there);
 	}
+	if (error != 0 || !is_same(old, there)) {
+		return error != 0 ? error : ENOENT;
+	}
+	fFolder = std::move(found.folder);
+	fLeaf = found.leaf;
 	// A file that is mounted on its own can be written, but its name is taken.
-	if ((there.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0) {
-		return EBUSY;
-	}
-	return sticks(folder, file) ? EPERM : 0;
+	fInPlace = (there.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
+	return 0;
 }
 
 
 int
 replacement::make(way first)
 {
-	if (first == NAMELESS) {
-		fDescriptor = openat(fFolder, ".", new_file | O_TMPFILE, nobody_else);
-		if (fDescriptor >= 0) {
-			return 0;
-		}
-		if (is_shortage(errno)) {
-			return errno;
-		}
+	int error = fFolder ? make_in(fFolder.get(), first) : EACCES;
+	if (is_refusal(error)) {
+		fInPlace = true;
+		error = make_elsewhere(first);
+	} else if (error == 0 && !fInPlace) {
+		error = carry_over(fOld.get(), fNew.get());
+		fInPlace = is_refusal(error);
+		error = fInPlace ? 0 : error;
 	}
-	fDescriptor = with_free_name(
-		[&](const char* name) {
-			return openat(fFolder, name, new_file | O_CREAT | O_EXCL, nobody_else);
-		},
-		&fHidden);
-	if (fDescriptor >= 0) {
+	return error == 0 ? open_again() : error;
+}
+
+
+int
+replacement::make_elsewhere(way first)
+{
+	fElsewhere = folder_for_passing_files();
+	if (fElsewhere && make_in(fElsewhere.get(), first) == 0) {
 		return 0;
 	}
-	fHidden.clear();
-	return errno;
+	fNew = descriptor(memfd_create("new contents", MFD_CLOEXEC));
+	return fNew ? 0 : errno;
+}
+
+
+int
+replacement::make_in(int folder, way first)
+{
+	if (first == NAMELESS) {
+		fNew = descriptor(openat(folder, ".", new_file | O_TMPFILE, nobody_else));
+		if (fNew) {
+			return 0;
+		}
+	}
+	return with_free_name(
+		[&](const char* name) {
+			fNew = descriptor(openat(folder, name, new_file | O_CREAT | O_EXCL, nobody_else));
+			return fNew.get();
+		},
+		&fHidden);
 }
 
 
 // Only a file that has a name can take another's.
-bool
-replacement::give_name()
+int
+replacement::name()
 {
-	const std::string file = link_to(fDescriptor);
-	const int answer = with_free_name(
+	const int error = link_new();
+	return error == 0 || fInPlace ? error : copy_new();
+}
+
+
+int
+replacement::link_new()
+{
+	const std::string file = link_to(fNew.get());
+	return with_free_name(
 		[&](const char* name) {
-			return linkat(AT_FDCWD, file.c_str(), fFolder, name, AT_SYMLINK_FOLLOW);
+			return linkat(AT_FDCWD, file.c_str(), beside(), name, AT_SYMLINK_FOLLOW);
 		},
 		&fHidden);
-	if (answer != 0) {
+}
+
+
+// In place of the new file that cannot have a name, one that has.
+int
+replacement::copy_new()
+{
+	descriptor nameless = std::move(fNew);
+	int error = make_in(beside(), HIDDEN);
+	if (error == 0) {
+		error = carry_over(nameless.get(), fNew.get());
+	}
+	if (error == 0) {
+		error = copy_contents(nameless.get(), fNew.get());
+	}
+	if (error == 0) {
+		error = open_again();
+	}
+	if (error != 0) {
+		drop();
+		fNew = std::move(nameless);
+	}
+	return error;
+}
+
+
+int
+replacement::open_again()
+{
+	fAgain = descriptor(fcntl(fNew.get(), F_DUPFD_CLOEXEC, 0));
+	return fAgain ? 0 : errno;
+}
+
+
+// Whether the bytes are where they are to stay. The new file is still open after it.
+bool
+replacement::is_kept()
+{
+	// Interrupted, it tells nothing about the bytes.
+	return fAgain.close() == 0 || (errno == EINTR && fsync(fNew.get()) == 0);
+}
+
+
+int
+replacement::take_name()
+{
+	const int error =
+		renameat(fFolder.get(), fHidden.c_str(), fFolder.get(), fLeaf.c_str()) == 0 ? 0 : errno;
+	// The answer of another machine may be lost when all is done.
+	if (error != 0 && !is_at_its_place(fNew.get())) {
+		return error;
+	}
+	fHidden.clear();
+	return 0;
+}
+
+
+int
+replacement::write_old()
+{
+	int error = hold_old();
+	if (error == 0) {
+		error = copy_contents(fNew.get(), fOld.get());
+	}
+	if (error == 0 && !fInPlace) {
+		carry_over_remarks(fNew.get(), fOld.get());
+	}
+	return error == 0 && fOld.close() != 0 && errno != EINTR ? errno : error;
+}
+
+
+// What was written into a file that has lost its name to another would be lost with it.
+int
+replacement::hold_old()
+{
+	if (!fFolder || is_at_its_place(fOld.get())) {
+		return 0;
+	}
+	const int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+	fOld = descriptor(openat(fFolder.get(), fLeaf.c_str(), flags));
+	struct stat state = {};
+	if (!fOld || fstat(fOld.get(), &state) != 0) {
+		return errno;
+	}
+	return S_ISREG(state.st_mode) ? 0 : ENOENT;
+}
+
+
+bool
+replacement::is_at_its_place(int file) const
+{
+	struct statx mine = {};
+	struct statx there = {};
+	return state_of(file, "", &mine) == 0 && state_of(fFolder.get(), fLeaf.c_str(), &there) == 0
+		&& is_same(mine, there);
+}
+
+
+// What has been written of the new file goes, or, once it has taken its place, only what is held of
+// it.
+void
+replacement::drop()
+{
+	if (!fHidden.empty()) {
+		unlinkat(beside(), fHidden.c_str(), 0);
 		fHidden.clear();
 	}
-	return answer == 0;
+	fNew.close();
 }
 
 }

@@ -7,11 +7,14 @@
 #include <File.h>
 #include <StorageDefs.h>
 
+#include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -336,4 +339,33 @@ TEST(file, is_closed_by_unset_by_the_destructor_and_by_opening_another)
 		file.SetTo(folder.path("file").c_str(), B_READ_ONLY);
 	}
 	EXPECT_EQ(open_in(folder), 0);
+}
+
+
+// As a file server holds what its client works on.
+TEST(file, held_by_somebody_is_waited_for)
+{
+	const temp_folder folder;
+	store(folder.path("held"), "a text");
+	const int holder = open(folder.path("held").c_str(), O_RDWR | O_CLOEXEC);
+	const auto before = signal(SIGIO, SIG_IGN);
+	if (fcntl(holder, F_SETLEASE, F_WRLCK) != 0) {
+		close(holder);
+		GTEST_SKIP() << "files cannot be held in " << folder.path();
+	}
+	// Told to give the file up, the holder does.
+	std::thread giving_up([&] {
+		while (fcntl(holder, F_GETLEASE) == F_WRLCK) {
+			std::this_thread::yield();
+		}
+		EXPECT_EQ(fcntl(holder, F_SETLEASE, F_UNLCK), 0);
+	});
+	BFile file;
+	EXPECT_EQ(file.SetTo(folder.path("held").c_str(), B_READ_ONLY), B_OK);
+	giving_up.join();
+	char bytes[10] = {};
+	EXPECT_EQ(file.Read(bytes, 9), 6);
+	EXPECT_STREQ(bytes, "a text");
+	close(holder);
+	signal(SIGIO, before);
 }

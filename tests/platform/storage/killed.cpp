@@ -21,6 +21,7 @@
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -59,12 +60,12 @@ save(BDirectory& directory, const std::string& text)
 void
 save_with_hidden_name(const std::string& path, const std::string& text)
 {
-	const int old = open(path.c_str(), O_RDWR | O_CLOEXEC);
+	kits::descriptor old(open(path.c_str(), O_RDWR | O_CLOEXEC));
 	std::unique_ptr<kits::replacement> made;
-	kits::replacement::begin(old, &made, kits::replacement::HIDDEN);
-	close(old);
+	kits::replacement::begin(
+		AT_FDCWD, path.c_str(), std::move(old), &made, kits::replacement::HIDDEN);
 	in_pieces(text, [&](const char* piece, size_t size) {
-		if (write(made->descriptor(), piece, size) != static_cast<ssize_t>(size)) {
+		if (write(made->contents(), piece, size) != static_cast<ssize_t>(size)) {
 			made->spoil();
 		}
 	});

@@ -13,6 +13,7 @@
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 using kits::replacement;
@@ -29,12 +30,16 @@ struct begun {
 	{
 		store(folder.path("old"), "a long text");
 		EXPECT_EQ(chmod(folder.path("old").c_str(), 0640), 0);
-		const int old = open(folder.path("old").c_str(), O_RDWR | O_CLOEXEC);
-		status = replacement::begin(old, &made, way);
-		close(old);
+		status = begin(folder.path("old"), way);
 		if (made != nullptr) {
-			EXPECT_EQ(write(made->descriptor(), "new", 3), 3);
+			EXPECT_EQ(write(made->contents(), "new", 3), 3);
 		}
+	}
+
+	status_t begin(const std::string& path, replacement::way way)
+	{
+		kits::descriptor old(open(path.c_str(), O_RDWR | O_CLOEXEC));
+		return replacement::begin(AT_FDCWD, path.c_str(), std::move(old), &made, way);
 	}
 
 	std::string contents() const { return stored(folder.path("old")); }
@@ -106,45 +111,51 @@ TEST_P(replacement_ways, is_dropped_when_nobody_closes_it)
 }
 
 
-TEST_P(replacement_ways, leaves_nothing_when_it_cannot_take_the_name)
+TEST_P(replacement_ways, stays_beside_what_it_can_neither_replace_nor_be_written_into)
 {
 	begun file(GetParam());
 	ASSERT_NE(file.made, nullptr);
 	std::filesystem::remove(file.folder.path("old"));
 	make_folder(file.folder.path("old"));
 	file.made->close();
-	EXPECT_EQ(file.neighbours(), names{"old"});
+	const names neighbours = file.neighbours();
+	ASSERT_EQ(neighbours.size(), 2u);
+	EXPECT_EQ(neighbours[0].substr(0, 5), ".new-");
+	EXPECT_EQ(neighbours[0].size(), 21u);
+	EXPECT_EQ(stored(file.folder.path(neighbours[0])), "new");
+	EXPECT_TRUE(std::filesystem::is_directory(file.folder.path("old")));
 }
 
 
-TEST_P(replacement_ways, there_is_none_of_a_file_that_has_no_name_any_more)
+TEST_P(replacement_ways, there_is_none_of_a_file_whose_name_another_has)
 {
 	const temp_folder folder;
 	store(folder.path("old"), "a long text");
-	const int old = open(folder.path("old").c_str(), O_RDWR | O_CLOEXEC);
-	std::filesystem::remove(folder.path("old"));
-	std::unique_ptr<replacement> made;
-	EXPECT_EQ(replacement::begin(old, &made, GetParam()), B_OK);
-	EXPECT_EQ(made, nullptr);
+	kits::descriptor old(open(folder.path("old").c_str(), O_RDWR | O_CLOEXEC));
+	std::filesystem::rename(folder.path("old"), folder.path("moved"));
 	store(folder.path("old"), "another file");
-	// What the system calls the file that has gone.
-	store(folder.path("old (deleted)"), "one more");
-	EXPECT_EQ(replacement::begin(old, &made, GetParam()), B_OK);
+	std::unique_ptr<replacement> made;
+	EXPECT_EQ(
+		replacement::begin(AT_FDCWD, folder.path("old").c_str(), std::move(old), &made, GetParam()),
+		B_OK);
 	EXPECT_EQ(made, nullptr);
-	close(old);
-	EXPECT_EQ(names_in(folder.path()), (names{"old", "old (deleted)"}));
+	EXPECT_EQ(names_in(folder.path()), (names{"moved", "old"}));
 }
 
 
-TEST_P(replacement_ways, there_is_none_of_what_lies_in_no_folder)
+TEST_P(replacement_ways, of_a_file_whose_place_is_unknown_is_written_into_it)
 {
-	int ends[2] = {-1, -1};
-	ASSERT_EQ(pipe2(ends, O_CLOEXEC), 0);
+	const temp_folder folder;
+	store(folder.path("old"), "a long text");
+	kits::descriptor old(open(folder.path("old").c_str(), O_RDWR | O_CLOEXEC));
 	std::unique_ptr<replacement> made;
-	EXPECT_EQ(replacement::begin(ends[1], &made, GetParam()), B_OK);
-	EXPECT_EQ(made, nullptr);
-	close(ends[0]);
-	close(ends[1]);
+	EXPECT_EQ(replacement::begin(AT_FDCWD, nullptr, std::move(old), &made, GetParam()), B_OK);
+	ASSERT_NE(made, nullptr);
+	EXPECT_EQ(write(made->contents(), "new", 3), 3);
+	EXPECT_EQ(stored(folder.path("old")), "a long text");
+	made->close();
+	EXPECT_EQ(stored(folder.path("old")), "new");
+	EXPECT_EQ(names_in(folder.path()), names{"old"});
 }
 
 
@@ -168,16 +179,4 @@ TEST(replacement, with_a_name_is_hidden)
 	EXPECT_EQ(neighbours[0].substr(0, 5), ".new-");
 	EXPECT_EQ(neighbours[1], "old");
 	EXPECT_EQ(stored(file.folder.path(neighbours[0])), "new");
-}
-
-
-TEST(replacement, is_dropped_when_closing_tells_of_lost_bytes)
-{
-	begun file(replacement::HIDDEN);
-	ASSERT_NE(file.made, nullptr);
-	// Closing it once more fails, as it does when the bytes could not be sent to another machine.
-	close(file.made->descriptor());
-	file.made->close();
-	EXPECT_EQ(file.contents(), "a long text");
-	EXPECT_EQ(file.neighbours(), names{"old"});
 }

@@ -318,7 +318,7 @@ TEST(replacing, takes_the_name_also_when_the_old_file_was_removed_meanwhile)
 }
 
 
-TEST(replacing, gives_up_before_a_folder_that_took_the_name_meanwhile)
+TEST(replacing, leaves_the_new_file_beside_a_folder_that_took_the_name_meanwhile)
 {
 	old_file old;
 	BFile file;
@@ -328,7 +328,10 @@ TEST(replacing, gives_up_before_a_folder_that_took_the_name_meanwhile)
 	make_folder(old.folder.path("old"));
 	file.Unset();
 	EXPECT_TRUE(std::filesystem::is_directory(old.folder.path("old")));
-	EXPECT_EQ(old.neighbours(), names{"old"});
+	const names neighbours = old.neighbours();
+	ASSERT_EQ(neighbours.size(), 2u);
+	EXPECT_EQ(neighbours[0].substr(0, 5), ".new-");
+	EXPECT_EQ(stored(old.folder.path(neighbours[0])), "new");
 }
 
 

@@ -4,12 +4,15 @@
 // Creating a file over an old one: what the new one takes over, and who may.
 #include "platform/storage/stored.h"
 #include "support/attributes.h"
+#include "support/size_limit.h"
 #include "support/temp_files.h"
 #include <AppFileInfo.h>
 #include <Directory.h>
 #include <File.h>
 #include <StorageDefs.h>
 
+#include <cstdlib>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/stat.h>
@@ -208,36 +211,94 @@ TEST(replacing_rights, by_the_administrator_keeps_owner_and_group)
 }
 
 
-TEST(replacing_rights, lets_no_other_group_have_more_rights_than_everybody)
+TEST(replacing_rights, of_somebody_elses_file_are_kept_by_writing_into_it)
 {
 	SKIP_UNLESS_ADMINISTRATOR()
 	const shared_folder at(0676);
 	ASSERT_EQ(chown(at.old().c_str(), 1234, 5678), 0);
+	const ino_t inode = state_of(at.old()).st_ino;
 	{
 		const plain_user user;
 		SKIP_UNLESS_PLAIN(user)
 		EXPECT_EQ(at.replace(), "a long text");
 	}
 	EXPECT_EQ(stored(at.old()), "new");
-	EXPECT_EQ(state_of(at.old()).st_uid, 65534u);
-	EXPECT_NE(state_of(at.old()).st_gid, 5678u);
-	EXPECT_EQ(mode_of(at.old()), 0666u);
+	EXPECT_EQ(state_of(at.old()).st_ino, inode);
+	EXPECT_EQ(state_of(at.old()).st_uid, 1234u);
+	EXPECT_EQ(state_of(at.old()).st_gid, 5678u);
+	EXPECT_EQ(mode_of(at.old()), 0676u);
+	EXPECT_EQ(names_in(at.folder.path()), names{"old"});
 }
 
 
-TEST(replacing_rights, lets_no_other_user_run_programs_as_himself)
+TEST(replacing_rights, of_a_group_that_the_owner_is_not_in_are_kept_by_writing_into_the_file)
 {
 	SKIP_UNLESS_ADMINISTRATOR()
-	const shared_folder at(06777);
-	ASSERT_EQ(chown(at.old().c_str(), 1234, 5678), 0);
-	ASSERT_EQ(chmod(at.old().c_str(), 06777), 0);
+	const shared_folder at(0660);
+	ASSERT_EQ(chown(at.old().c_str(), 65534, 5678), 0);
 	{
 		const plain_user user;
 		SKIP_UNLESS_PLAIN(user)
-		BDirectory(at.folder.path().c_str()).CreateFile("old", nullptr);
+		EXPECT_EQ(at.replace(), "a long text");
 	}
-	EXPECT_EQ(stored(at.old()), "");
-	EXPECT_EQ(mode_of(at.old()), 0777u);
+	EXPECT_EQ(stored(at.old()), "new");
+	EXPECT_EQ(state_of(at.old()).st_gid, 5678u);
+	EXPECT_EQ(mode_of(at.old()), 0660u);
+}
+
+
+TEST(replacing_rights, of_somebody_elses_file_with_a_list_are_kept)
+{
+	SKIP_UNLESS_ADMINISTRATOR()
+	const shared_folder at(0666);
+	const std::string list = list_with_user(4);
+	ASSERT_EQ(chown(at.old().c_str(), 1234, 5678), 0);
+	if (!set_list(at.old(), "system.posix_acl_access", list)) {
+		GTEST_SKIP() << "no access lists in " << at.folder.path();
+	}
+	ASSERT_EQ(chmod(at.old().c_str(), 0676), 0);
+	const std::string before = attribute_of(at.old(), "system.posix_acl_access");
+	{
+		const plain_user user;
+		SKIP_UNLESS_PLAIN(user)
+		EXPECT_EQ(at.replace(), "a long text");
+	}
+	EXPECT_EQ(stored(at.old()), "new");
+	EXPECT_EQ(state_of(at.old()).st_uid, 1234u);
+	EXPECT_EQ(attribute_of(at.old(), "system.posix_acl_access"), before);
+}
+
+
+TEST(replacing_rights, of_a_file_written_into_are_there_to_be_given_a_type)
+{
+	const shared_folder at(0666, 0555);
+	if (setxattr(at.old().c_str(), "user.mime_type", "text/plain", 10, 0) != 0) {
+		GTEST_SKIP() << "no attributes in " << at.folder.path();
+	}
+	{
+		const plain_user user;
+		SKIP_UNLESS_PLAIN(user)
+		BFile file;
+		ASSERT_EQ(BDirectory(at.folder.path().c_str()).CreateFile("old", &file), B_OK);
+		EXPECT_EQ(BAppFileInfo(&file).SetType("font/ttf"), B_OK);
+	}
+	EXPECT_EQ(attribute_of(at.old(), "user.mime_type"), "font/ttf");
+}
+
+
+// A failed write to the file itself would leave neither the old contents nor the new.
+TEST(replacing_rights, in_a_folder_that_takes_no_file_a_failed_write_leaves_the_old_contents)
+{
+	const shared_folder at(0666, 0555);
+	{
+		const plain_user user;
+		SKIP_UNLESS_PLAIN(user)
+		const size_limit full(8);
+		BFile file;
+		ASSERT_EQ(BDirectory(at.folder.path().c_str()).CreateFile("old", &file), B_OK);
+		EXPECT_EQ(file.Write("1234567890", 10), 8);
+	}
+	EXPECT_EQ(stored(at.old()), "a long text");
 }
 
 
@@ -248,7 +309,7 @@ TEST(replacing_rights, in_a_folder_that_takes_no_file_writes_to_the_old_one)
 	{
 		const plain_user user;
 		SKIP_UNLESS_PLAIN(user)
-		EXPECT_EQ(at.replace(), "new");
+		EXPECT_EQ(at.replace(), "a long text");
 	}
 	EXPECT_EQ(stored(at.old()), "new");
 	EXPECT_EQ(state_of(at.old()).st_ino, inode);
@@ -263,7 +324,23 @@ TEST(replacing_rights, in_a_folder_where_only_owners_replace_writes_to_the_old_f
 	{
 		const plain_user user;
 		SKIP_UNLESS_PLAIN(user)
-		EXPECT_EQ(at.replace(), "new");
+		EXPECT_EQ(at.replace(), "a long text");
+	}
+	EXPECT_EQ(stored(at.old()), "new");
+	EXPECT_EQ(names_in(at.folder.path()), names{"old"});
+}
+
+
+TEST(replacing_rights, where_no_folder_takes_a_file_it_is_written_all_the_same)
+{
+	const shared_folder at(0666, 0555);
+	{
+		const plain_user user;
+		SKIP_UNLESS_PLAIN(user)
+		const std::string before = std::filesystem::temp_directory_path().string();
+		setenv("TMPDIR", "/no/such/folder", 1);
+		EXPECT_EQ(at.replace(), "a long text");
+		setenv("TMPDIR", before.c_str(), 1);
 	}
 	EXPECT_EQ(stored(at.old()), "new");
 	EXPECT_EQ(names_in(at.folder.path()), names{"old"});
