@@ -3,14 +3,10 @@
 
 #include "app/kernix.h"
 
-#include <cstdio>
-
 
 int
 main()
 {
-	// Diagnostics appear at once, also in a pipe.
-	setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
 	kernix app;
 	app.Run();
 	return 0;

@@ -5,6 +5,7 @@
 #include "app/looper_state.h"
 #include "app/start_arguments.h"
 #include "display/display.h"
+#include "support/output.h"
 
 #include <algorithm>
 #include <AppDefs.h>
@@ -18,6 +19,7 @@ BApplication* be_app = nullptr;
 
 BApplication::BApplication(const char* signature) : BLooper(signature), fStarted(false)
 {
+	never_wait_for_output();
 	display::start();
 	be_app = this;
 	be_app_messenger = BMessenger(this);
