@@ -157,11 +157,12 @@ bool
 kernix::save(entry_ref& directory, const char* name)
 {
 	printf("kernix:save\n");
-	// Held while the bytes are written, so that no edit tears the file.
-	if (!window->Lock())
-		return true;
+	// Held while the bytes are written, so that no edit tears the file. Once the window has gone
+	// nobody edits any more, and what the user has confirmed is still to be saved.
+	const bool locked = window->Lock();
 	bool failed = write(directory, name);
-	window->Unlock();
+	if (locked)
+		window->Unlock();
 	return failed;
 }
 
@@ -204,11 +205,19 @@ kernix::handshake()
 }
 
 
+// Not before any was opened, nor while one is set up, nor after one that could not be opened.
+static bool
+has_font()
+{
+	return curttf != nullptr && !curttf->empty();
+}
+
+
 bool
 kernix::write(entry_ref& directory, const char* name)
 {
 	// Asked before the file is created: creating empties the one that is there.
-	if (curttf == nullptr || curttf->empty())
+	if (!has_font())
 		return true;
 	BFile file;
 	BDirectory(&directory).CreateFile(name, &file, false);
@@ -222,11 +231,9 @@ kernix::write(entry_ref& directory, const char* name)
 void
 kernix::save_request(const BMessage* message)
 {
-	if (canvas == BRect(0, 0, 0, 0))
-		return;
 	entry_ref directory;
 	const char* name;
-	if (message->FindRef("directory", &directory) == B_OK
+	if (has_font() && message->FindRef("directory", &directory) == B_OK
 		&& message->FindString("name", &name) == B_OK)
 		save(directory, name);
 }

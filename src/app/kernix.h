@@ -38,8 +38,8 @@ public:
 	// Opens a font file in place of the open font. True on failure: then there is an empty font and
 	// an empty work view, or, when the window has gone, all is as it was.
 	bool load(entry_ref& ref);
-	// Writes the font under this name, over a file that bears it, and sets its type. True on
-	// failure. Touches no file while there is nothing to save or when the window has gone.
+	// Writes the font under this name, over a file that bears it, and sets its type; also when the
+	// window has gone. True on failure. Touches no file while there is nothing to save.
 	bool save(entry_ref& directory, const char* name);
 	// Takes the font off the screen and destroys it.
 	void clear();

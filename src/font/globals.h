@@ -18,9 +18,9 @@ class ttf;
 // Still reachable, and not destroyed, when the program ends.
 extern ttf* curttf;
 
-// The bounds of the canvas of the font on display; all zero until the first one is. Written in the
-// window's thread while 'init' is handled; the application reads it once canvasok has told that
-// this is done.
+// The bounds of the canvas of the font on display; all zero until the first one is, and also for a
+// font whose box is empty. Written in the window's thread while 'init' is handled, and reset in the
+// application's when the next font's outline view is made.
 extern BRect canvas;
 
 // The handshake for a new font: the application sets it to 0, sends 'init' and waits; the window's

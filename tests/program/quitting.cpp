@@ -8,6 +8,7 @@
 #include "app/kernixwindow.h"
 #include "font/globals.h"
 #include "program/journey.h"
+#include "support/expected_save.h"
 #include "support/live_handlers.h"
 #include "support/temp_files.h"
 
@@ -196,10 +197,29 @@ TEST(quitting, while_a_font_is_being_saved_ends_the_program)
 }
 
 
-TEST(quitting, makes_a_file_that_comes_too_late_do_nothing)
+TEST(quitting, right_after_a_save_was_confirmed_leaves_the_font_saved)
 {
 	temp_file font(tiny_font());
 	temp_folder folder;
+	journey([&](kernix& app, robot& user) {
+		open_file(user, font.path());
+		// The application is busy while the save and the end of the window come.
+		app.Lock();
+		BMessage message = save_answer(folder.path(), "saved.ttf");
+		be_app_messenger.SendMessage(&message);
+		BMessenger(app.window).SendMessage(B_QUIT_REQUESTED);
+		while (!has_gone(app))
+			std::this_thread::yield();
+		app.Unlock();
+	});
+	octets saved = read_file(folder.path("saved.ttf"));
+	EXPECT_TRUE(same(expected_save(tiny_font(), modified_of(saved)), saved));
+}
+
+
+TEST(quitting, makes_a_file_that_comes_too_late_do_nothing)
+{
+	temp_file font(tiny_font());
 	journey([&](kernix& app, robot& user) {
 		open_file(user, font.path());
 		user.press_close_box();
@@ -208,9 +228,6 @@ TEST(quitting, makes_a_file_that_comes_too_late_do_nothing)
 		refs(B_REFS_RECEIVED, {font.path()}).FindRef("refs", &ref);
 		EXPECT_TRUE(app.load(ref));
 		EXPECT_EQ(curttf, before);
-		entry_ref directory;
-		save_answer(folder.path(), "").FindRef("directory", &directory);
-		EXPECT_TRUE(app.save(directory, "saved.ttf"));
 		app.clear();
 		EXPECT_EQ(curttf, before);
 	});

@@ -11,6 +11,7 @@
 #include "support/sfnt.h"
 #include "support/temp_files.h"
 
+#include <algorithm>
 #include <AppDefs.h>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -188,6 +189,23 @@ TEST(saving, sets_the_type_of_the_file_whatever_its_name)
 			save_file(user, folder.path(), name);
 			EXPECT_EQ(type_of(folder.path(name)), "application/x-truetype") << name;
 		}
+	});
+}
+
+
+TEST(saving, writes_a_font_whose_box_is_empty)
+{
+	octets head = tiny_font().table("head");
+	std::fill(head.begin() + 36, head.begin() + 44, 0);
+	const font_file font = tiny_font().with("head", head);
+	temp_file file(font);
+	temp_folder folder;
+	journey([&](kernix& app, robot& user) {
+		open_file(user, file.path());
+		EXPECT_EQ(shown_canvas(app), BRect(0, 0, 0, 0));
+		user.choose_menu("File", "Save as");
+		user.answer_panel(folder.path("saved.ttf"));
+		expect_saved(font, folder.path("saved.ttf"));
 	});
 }
 
