@@ -3,10 +3,25 @@
 
 #include "app/start_arguments.h"
 
+#include <algorithm>
 #include <AppDefs.h>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <fstream>
 #include <string>
 #include <sys/stat.h>
+
+
+// In one line, whatever the word holds.
+static void
+complain(std::string word, int reason)
+{
+	auto breaks_lines = [](char each) { return (unsigned char)each < ' ' || each == 0x7F; };
+	std::replace_if(word.begin(), word.end(), breaks_lines, '?');
+	fprintf(stderr, "%s: cannot open \"%s\": %s\n", program_invocation_short_name, word.c_str(),
+		strerror(reason));
+}
 
 
 BMessage
@@ -19,7 +34,9 @@ kits::refs_of_start_arguments()
 	while (std::getline(words, word, '\0')) {
 		struct stat found;
 		entry_ref ref;
-		if (stat(word.c_str(), &found) == 0 && get_ref_for_path(word.c_str(), &ref) == B_OK)
+		if (stat(word.c_str(), &found) != 0)
+			complain(word, errno);
+		else if (get_ref_for_path(word.c_str(), &ref) == B_OK)
 			refs.AddRef("refs", &ref);
 	}
 	return refs;

@@ -76,7 +76,25 @@ TEST(start_arguments, that_name_nothing_leave_the_message_empty)
 	const ended result = run_again("start_arguments.DISABLED_prints_the_references");
 	EXPECT_EQ(result.status, 0);
 	EXPECT_EQ(lines_after("field", result.output), words({"none"}));
-	EXPECT_EQ(result.complaints, words());
+}
+
+
+TEST(start_arguments, that_lead_to_nothing_are_named_in_a_line_each)
+{
+	const temp_folder folder;
+	write_file(folder.path("there.ttf"), octets());
+	const ended result = run_again("start_arguments.DISABLED_prints_the_references",
+		{"/no/such file.ttf", folder.path("there.ttf"), folder.path("there.ttf/below"), "",
+			"two\nlines\x7F\xE9"});
+	// The test framework's own options are words like any other.
+	words complaints = lines_after("kits_tests: cannot open", result.complaints);
+	std::erase_if(
+		complaints, [](const std::string& line) { return line.starts_with("\"--gtest_"); });
+	EXPECT_EQ(complaints,
+		words({"\"/no/such file.ttf\": No such file or directory",
+			"\"" + folder.path("there.ttf/below") + "\": Not a directory",
+			"\"\": No such file or directory", "\"two?lines?\xE9\": No such file or directory"}));
+	EXPECT_EQ(lines_after("ref", result.output), words({real(folder.path("there.ttf"))}));
 }
 
 
