@@ -55,12 +55,27 @@ control_character(int key)
 }
 
 
+// With Control the display's server makes control characters of digits and signs as well, some of
+// which are Delete and the arrows on the platform. Those keys keep their own character.
+bool
+is_disguised(const QKeyEvent& event)
+{
+	const QString text = event.text();
+	return text.size() == 1 && text[0].category() == QChar::Other_Control
+		&& event.key() >= Qt::Key_Space && event.key() < 0x10000
+		&& !QChar::isLetter((char32_t)event.key());
+}
+
+
 QByteArray
 bytes_of(const QKeyEvent& event)
 {
 	if (char control = control_character(event.key()))
 		return QByteArray(1, control);
-	return event.text().toUtf8();
+	QString text = event.text();
+	if (is_disguised(event))
+		text = QChar((char16_t)event.key());
+	return text.toUtf8();
 }
 
 

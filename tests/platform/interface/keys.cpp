@@ -118,6 +118,34 @@ TEST(keys, with_control_have_its_character_and_the_plain_one_raw)
 }
 
 
+TEST(keys, of_digits_and_signs_with_control_have_their_plain_character)
+{
+	// As the X server has them: it makes control characters of these keys too.
+	const struct {
+		int key;
+		const char* text;
+		const char* bytes;
+	} cases[] = {{Qt::Key_3, "\x1b", "33"}, {Qt::Key_4, "\x1c", "34"}, {Qt::Key_5, "\x1d", "35"},
+		{Qt::Key_6, "\x1e", "36"}, {Qt::Key_7, "\x1f", "37"}, {Qt::Key_8, "\x7f", "38"},
+		{Qt::Key_9, "9", "39"}, {Qt::Key_Backslash, "\x1c", "5c"},
+		{Qt::Key_BracketRight, "\x1d", "5d"}, {Qt::Key_AsciiCircum, "\x1e", "5e"},
+		{Qt::Key_Slash, "\x1f", "2f"}, {Qt::Key_Underscore, "\x1f", "5f"}};
+	with_keyboard([&](key_view& view, test_window& window, robot& user) {
+		for (const auto& each : cases) {
+			for (auto pad : {Qt::NoModifier, Qt::KeypadModifier}) {
+				window.locked([&] { view.keys.clear(); });
+				strike(user, {{true, each.key, each.text, Qt::ControlModifier | pad, 0, 20}});
+				strike(user, {{false, each.key, each.text, Qt::ControlModifier | pad, 100, 20}});
+				const std::string bytes = each.bytes;
+				window.locked([&] {
+					EXPECT_EQ(view.keys, (journal{"down " + bytes, "up " + bytes}));
+				});
+			}
+		}
+	});
+}
+
+
 TEST(keys, of_the_keypad_are_digits_or_arrows_as_num_lock_has_it)
 {
 	with_keyboard([](key_view& view, test_window& window, robot& user) {
