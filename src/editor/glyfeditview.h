@@ -83,6 +83,7 @@ public:
 	void MouseMoved(BPoint where, uint32 transit, const BMessage* drag) override;
 	void KeyDown(const char* bytes, int32 count) override;
 	void KeyUp(const char* bytes, int32 count) override;
+	void MakeFocus(bool focus = true) override;
 
 	// Pointer tool, nothing in progress, fitted; tells the palette everything.
 	void init();

@@ -130,12 +130,15 @@ glyfeditview::show_glyph()
 }
 
 
-// What was in progress was done to the outline that goes.
+// What was in progress was done to the outline that goes. So was the press that may have led here,
+// by taking the keyboard from a field with another number: what comes after it counts no more.
 void
 glyfeditview::reset_editing()
 {
 	edit_state = idle;
 	band_active = 0;
+	button_held = 0;
+	first_move = 1;
 	drop_object();
 }
 
@@ -233,10 +236,11 @@ glyfeditview::place_components()
 }
 
 
+// The shortcuts reach the view that has the keyboard, hidden as it may be.
 void
 glyfeditview::copy()
 {
-	if (is_empty() || tool_mode != pointer_tool || edit_state != selecting)
+	if (IsHidden() || is_empty() || tool_mode != pointer_tool || edit_state != selecting)
 		return;
 	cur_glyph->copy();
 	redraw(draw_full);
@@ -247,7 +251,7 @@ glyfeditview::copy()
 void
 glyfeditview::paste()
 {
-	if (is_empty() || tool_mode != pointer_tool)
+	if (IsHidden() || is_empty() || tool_mode != pointer_tool)
 		return;
 	cur_glyph->paste();
 	redraw(draw_full);

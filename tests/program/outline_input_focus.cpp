@@ -131,6 +131,64 @@ TEST(outline_input, a_hidden_view_ignores_pointer_and_keys)
 }
 
 
+TEST(outline_input, a_hidden_view_neither_copies_nor_pastes)
+{
+	at_outline(three_squares, [](outline_user& user) {
+		user.click({56, 16});
+		user.hand.key(Qt::Key_C, "\x03", B_CONTROL_KEY);
+		user.hand.click(place_of_tag(2));
+		user.hand.key(Qt::Key_V, "\x16", B_CONTROL_KEY);
+		user.hand.click(place_of_tag(1));
+		user.click({16, 16});
+		user.hand.click(place_of_tag(2));
+		user.hand.key(Qt::Key_C, "\x03", B_CONTROL_KEY);
+		user.hand.click(place_of_tag(1));
+		user.choose(square);
+		user.hand.key(Qt::Key_V, "\x16", B_CONTROL_KEY);
+		EXPECT_EQ(user.outline(), "20,20 60,20 60,60 20,60 | 48,8 64,8 64,24 48,24");
+		user.choose(three_squares);
+		user.click({120, 120});
+		EXPECT_EQ(user.selection(), "0 0 0");
+	});
+}
+
+
+TEST(outline_input, a_press_that_makes_a_field_choose_another_glyph_does_nothing_else)
+{
+	at_outline(three_squares, [](outline_user& user) {
+		user.band({0, 0}, {30, 30});
+		user.hand.click(number_field);
+		user.hand.key(Qt::Key_A, "\x01", B_CONTROL_KEY);
+		user.hand.type("1");
+		user.press({16, 16});
+		EXPECT_EQ(user.edit(&glyfeditview::gno), square);
+		user.move({40, 40});
+		user.release({40, 40});
+		EXPECT_EQ(user.outline(), "20,20 60,20 60,60 20,60");
+		EXPECT_EQ(user.selection(), "0");
+		EXPECT_EQ(user.state(), 0);
+		EXPECT_TRUE(user.looks_fresh());
+		user.band({10, 10}, {30, 30});
+		EXPECT_EQ(user.selection(), "-1") << "the next press counts";
+	});
+}
+
+
+TEST(outline_input, a_press_with_a_tool_that_chooses_another_glyph_draws_nothing)
+{
+	at_outline(three_squares, [](outline_user& user) {
+		user.take('drre');
+		user.hand.click(number_field);
+		user.hand.key(Qt::Key_A, "\x01", B_CONTROL_KEY);
+		user.hand.type("1");
+		user.drag({16, 16}, {100, 100});
+		EXPECT_EQ(user.outline(), "20,20 60,20 60,60 20,60");
+		EXPECT_EQ(points_in(user), "none");
+		EXPECT_TRUE(user.looks_fresh());
+	});
+}
+
+
 TEST(outline_input, a_view_that_is_shown_again_takes_input_again)
 {
 	at_outline(three_squares, [](outline_user& user) {

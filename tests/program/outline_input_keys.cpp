@@ -295,3 +295,44 @@ TEST(outline_input, the_contours_of_a_composite_cannot_be_turned_ordered_or_dele
 		looking(user.app, [] { EXPECT_EQ(cur_glyph->num_compo, 2); });
 	});
 }
+
+
+TEST(outline_input, a_key_counts_after_the_release_of_another_went_to_a_field)
+{
+	at_keys(three_squares, [](outline_user& user) {
+		const BPoint number_field(35, 133);
+		user.hand.key_down(Qt::Key_Left);
+		EXPECT_EQ(user.selection(), "-1 0 0");
+		user.hand.click(number_field);
+		user.hand.key_up(Qt::Key_Left);
+		user.click({120, 120});
+		user.hand.key(Qt::Key_Down);
+		EXPECT_EQ(user.selection(), "0 0 -1");
+	});
+}
+
+
+TEST(outline_input, a_press_on_the_canvas_does_not_let_a_held_key_count_again)
+{
+	at_keys(three_squares, [](outline_user& user) {
+		user.hand.key_down(Qt::Key_Left);
+		user.click({16, 16});
+		user.hand.key_down(Qt::Key_Left);
+		EXPECT_EQ(user.selection(), "-1 0 0");
+		user.hand.key_up(Qt::Key_Left);
+	});
+}
+
+
+TEST(outline_input, a_digit_with_control_is_that_digit)
+{
+	at_keys(three_squares, [](outline_user& user) {
+		user.click({16, 16});
+		user.band({0, 0}, {30, 30});
+		user.hand.key(Qt::Key_8, "\x7f", B_CONTROL_KEY);
+		EXPECT_EQ(order(user), "48 88 8");
+		user.hand.key(Qt::Key_6, "\x1e", B_CONTROL_KEY);
+		EXPECT_EQ(order(user), "48 88 8");
+		EXPECT_EQ(user.selection(), "0 -1 0");
+	});
+}

@@ -122,7 +122,7 @@ TEST(keys, of_digits_and_signs_with_control_have_their_plain_character)
 {
 	// As the X server has them: it makes control characters of these keys too.
 	const struct {
-		int key;
+		Qt::Key key;
 		const char* text;
 		const char* bytes;
 	} cases[] = {{Qt::Key_3, "\x1b", "33"}, {Qt::Key_4, "\x1c", "34"}, {Qt::Key_5, "\x1d", "35"},
