@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <QApplication>
 #include <QFontInfo>
+#include <QSettings>
 #include <semaphore>
 #include <unistd.h>
 
@@ -25,6 +26,7 @@ std::atomic<bool> is_running{false};
 std::atomic<bool> is_serving{false};
 std::thread::id display_thread;
 QString* first_complaint = nullptr;
+QtMessageHandler say_as_usual = nullptr;
 
 
 // Qt aborts when it finds no display. This turns that into one line and a plain end.
@@ -42,17 +44,32 @@ end_without_display(QtMsgType type, const QMessageLogContext&, const QString& te
 }
 
 
+// When the connection breaks, Qt says so and calls exit(), which tears down what the other threads
+// are still using. Nothing is left to be done then but to end.
+void
+end_with_display(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+	if (text.contains("connection broke")) {
+		fprintf(stderr, "%s: the display has gone\n", program_invocation_short_name);
+		_exit(1);
+	}
+	say_as_usual(type, context, text);
+}
+
+
 void
 make_application()
 {
 	static int count = 1;
 	static char* arguments[] = {program_invocation_short_name, nullptr};
 	first_complaint = new QString;
-	qInstallMessageHandler(end_without_display);
+	say_as_usual = qInstallMessageHandler(end_without_display);
+	// Qt's file dialog would keep what it was left with; and there no file can be made.
+	QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 	QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
 	QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
 	auto* application = new QApplication(count, arguments);
-	qInstallMessageHandler(nullptr);
+	qInstallMessageHandler(end_with_display);
 	application->setQuitOnLastWindowClosed(false);
 	set_look(*application);
 	if (QFontInfo(application->font()).family().isEmpty())

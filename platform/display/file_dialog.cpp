@@ -3,100 +3,31 @@
 #include "display/file_dialog.h"
 
 #include "display/display.h"
+#include "display/file_dialog_widget.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QFileDialog>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QApplication>
+#include <QThread>
+#include <QTimer>
 
 using namespace kits;
 
 
-namespace {
-
-QString&
-last_folder()
+// Qt may still be running a loop of its own below a call from the dialog, for a box that says that a
+// folder has gone, for instance. That has to end first: it returns into the dialog.
+static void
+end(QFileDialog* widget)
 {
-	static auto* const folder = new QString;
-	return *folder;
-}
-
-
-// Asks before a file is replaced. Qt's own question would run a loop of its own inside a command.
-class dialog_widget : public QFileDialog {
-public:
-	dialog_widget(const dialog_options& options, dialog_answer answer)
-		: fAnswer(std::move(answer)),
-		  fSaving(options.saving)
-	{
-		setOption(QFileDialog::DontUseNativeDialog);
-		setOption(QFileDialog::DontConfirmOverwrite);
-		setAcceptMode(options.saving ? AcceptSave : AcceptOpen);
-		setFileMode(options.saving ? AnyFile : options.several ? ExistingFiles : ExistingFile);
-		setWindowTitle(options.saving ? "Save as" : "Open");
-		QString folder = QString::fromStdString(options.folder);
-		if (folder.isEmpty())
-			folder = last_folder();
-		if (!folder.isEmpty())
-			setDirectory(folder);
-		// Wide enough for sizes and dates in full.
-		resize(760, 440);
+	widget->hide();
+	if (QThread::currentThread()->loopLevel() <= 1) {
+		widget->deleteLater();
+		return;
 	}
-
-protected:
-	void done(int result) override
-	{
-		if (result == Accepted && fSaving && QFileInfo::exists(selectedFiles().value(0))) {
-			_Ask();
-			return;
-		}
-		_Finish(result);
+	for (QWidget* box : {QApplication::activePopupWidget(), QApplication::activeModalWidget()}) {
+		if (box)
+			box->close();
 	}
-
-private:
-	void _Ask()
-	{
-		auto* question = new QMessageBox(QMessageBox::Warning, windowTitle(),
-			QString("\"%1\" exists already. Replace it?")
-				.arg(QFileInfo(selectedFiles().value(0)).fileName()),
-			QMessageBox::NoButton, this);
-		question->setAttribute(Qt::WA_DeleteOnClose);
-		question->addButton("Cancel", QMessageBox::RejectRole);
-		auto* replace = question->addButton("Replace", QMessageBox::AcceptRole);
-		question->setDefaultButton(replace);
-		connect(replace, &QAbstractButton::clicked, this, [this] { _Finish(Accepted); });
-		question->open();
-	}
-
-	void _Finish(int result)
-	{
-		last_folder() = directory().absolutePath();
-		QFileDialog::done(result);
-		_EndSuggestions();
-		std::vector<std::string> paths;
-		if (result == Accepted) {
-			for (const QString& path : selectedFiles())
-				paths.push_back(path.toStdString());
-		}
-		fAnswer(paths);
-	}
-
-	// They are a window of their own, which would stay, or come late, when the folder has been read.
-	void _EndSuggestions()
-	{
-		for (auto* field : findChildren<QLineEdit*>())
-			field->setCompleter(nullptr);
-		for (auto* suggestions : findChildren<QCompleter*>())
-			suggestions->popup()->hide();
-	}
-
-	const dialog_answer fAnswer;
-	const bool fSaving;
-};
-
+	QTimer::singleShot(0, widget, [widget] { end(widget); });
+	QObject::connect(qApp, &QCoreApplication::aboutToQuit, widget, &QObject::deleteLater);
 }
 
 
@@ -104,7 +35,7 @@ std::shared_ptr<file_dialog>
 file_dialogs::make(const dialog_options& options, const dialog_answer& answer)
 {
 	auto made = std::make_shared<file_dialog>();
-	display::post([=] { made->widget = new dialog_widget(options, answer); });
+	display::post([=] { made->widget = new file_dialog_widget(options, answer); });
 	return made;
 }
 
@@ -124,7 +55,7 @@ file_dialogs::destroy(const std::shared_ptr<file_dialog>& dialog)
 {
 	display::post([=] {
 		if (dialog->widget)
-			dialog->widget->deleteLater();
+			end(dialog->widget);
 		dialog->widget = nullptr;
 	});
 }

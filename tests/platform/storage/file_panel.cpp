@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 // What file panels start with, and what they answer.
+#include "platform/app/again.h"
 #include "platform/storage/desk.h"
 #include "platform/storage/stored.h"
 
 #include <AppDefs.h>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QFileDialog>
@@ -222,6 +224,17 @@ TEST(file_panel, starts_where_it_is_told_before_where_the_last_one_was_left)
 		EXPECT_EQ(
 			path_of(of.window.last_dispatched(B_SAVE_REQUESTED), "directory"), of.folder.path());
 	});
+}
+
+
+TEST(file_panel, leaves_no_settings_behind)
+{
+	const temp_folder home;
+	const ended result = run_again("file_panel.to_save_answers_with_folder_and_name", {},
+		{"HOME=" + home.path(), "XDG_CONFIG_HOME=" + home.path("config")});
+	EXPECT_EQ(result.status, 0);
+	EXPECT_FALSE(std::filesystem::exists(home.path("config")));
+	EXPECT_FALSE(std::filesystem::exists(home.path(".config")));
 }
 
 
