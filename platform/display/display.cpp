@@ -57,6 +57,18 @@ end_with_display(QtMsgType type, const QMessageLogContext& context, const QStrin
 }
 
 
+// What Qt's file dialog was left with is not kept: no file can be made there. What the font library
+// finds out goes where the files of the session are.
+void
+leave_home_alone()
+{
+	QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+	const QByteArray session = qgetenv("XDG_RUNTIME_DIR");
+	if (!session.isEmpty())
+		qputenv("XDG_CACHE_HOME", session + '/' + program_invocation_short_name);
+}
+
+
 void
 make_application()
 {
@@ -64,8 +76,6 @@ make_application()
 	static char* arguments[] = {program_invocation_short_name, nullptr};
 	first_complaint = new QString;
 	say_as_usual = qInstallMessageHandler(end_without_display);
-	// Qt's file dialog would keep what it was left with; and there no file can be made.
-	QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 	QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
 	QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
 	auto* application = new QApplication(count, arguments);
@@ -87,6 +97,7 @@ display::start()
 		return;
 	display_thread = std::this_thread::get_id();
 	commands = new command_queue;
+	leave_home_alone();
 	make_application();
 	is_running = true;
 }
