@@ -27,6 +27,8 @@ complain(std::string word, int reason)
 BMessage
 kits::refs_of_start_arguments()
 {
+	// Whatever runs here in turn, the words were given once.
+	static bool complained = false;
 	BMessage refs(B_REFS_RECEIVED);
 	std::ifstream words("/proc/self/cmdline", std::ios::binary);
 	std::string word;
@@ -34,10 +36,12 @@ kits::refs_of_start_arguments()
 	while (std::getline(words, word, '\0')) {
 		struct stat found;
 		entry_ref ref;
-		if (stat(word.c_str(), &found) != 0)
-			complain(word, errno);
-		else if (get_ref_for_path(word.c_str(), &ref) == B_OK)
+		const bool there = stat(word.c_str(), &found) == 0;
+		if (there && get_ref_for_path(word.c_str(), &ref) == B_OK)
 			refs.AddRef("refs", &ref);
+		else if (!there && !complained)
+			complain(word, errno);
 	}
+	complained = true;
 	return refs;
 }

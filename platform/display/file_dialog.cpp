@@ -11,6 +11,9 @@
 
 using namespace kits;
 
+// Milliseconds.
+static constexpr int retry = 5;
+
 
 // Qt may still be running a loop of its own below a call from the dialog, for a box that says that a
 // folder has gone, for instance. That has to end first: it returns into the dialog.
@@ -26,8 +29,9 @@ end(QFileDialog* widget)
 		if (box)
 			box->close();
 	}
-	QTimer::singleShot(0, widget, [widget] { end(widget); });
-	QObject::connect(qApp, &QCoreApplication::aboutToQuit, widget, &QObject::deleteLater);
+	QTimer::singleShot(retry, widget, [widget] { end(widget); });
+	QObject::connect(
+		qApp, &QCoreApplication::aboutToQuit, widget, &QObject::deleteLater, Qt::UniqueConnection);
 }
 
 

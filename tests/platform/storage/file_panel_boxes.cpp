@@ -16,6 +16,7 @@
 #include <QFileSystemModel>
 #include <QItemSelectionModel>
 #include <QMessageBox>
+#include <QShortcut>
 #include <QTimer>
 
 
@@ -142,11 +143,29 @@ TEST(file_panel, deletes_a_file_when_the_user_agrees)
 				shown_dialog()->findChild<QAction*>("qt_delete_action")->trigger();
 			});
 			EXPECT_EQ(box_text(of.user), "Delete \"one.ttf\"?");
-			EXPECT_TRUE(stored(of.folder.path("one.ttf")) == "1");
+			EXPECT_EQ(stored(of.folder.path("one.ttf")), "1");
 			EXPECT_TRUE(of.user.press_question(answer));
 		}
 		EXPECT_FALSE(std::filesystem::exists(of.folder.path("one.ttf")));
 		EXPECT_TRUE(std::filesystem::exists(of.folder.path("two.ttf")));
+	});
+}
+
+
+TEST(file_panel, asks_before_the_delete_key_deletes)
+{
+	with_desk([](desk& of) {
+		auto panel = of.panel(B_OPEN_PANEL);
+		panel->Show();
+		ASSERT_TRUE(select_file(of, "two.ttf"));
+		of.user.act([](QWidget&) {
+			for (auto* key : files_in(shown_dialog())->findChildren<QShortcut*>())
+				Q_EMIT key->activated();
+		});
+		EXPECT_EQ(box_text(of.user), "Delete \"two.ttf\"?");
+		panel.reset();
+		EXPECT_TRUE(of.user.wait_for([&] { return of.user.count_panels() == 0; }));
+		EXPECT_EQ(stored(of.folder.path("two.ttf")), "2");
 	});
 }
 
