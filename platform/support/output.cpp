@@ -26,7 +26,7 @@ struct outlet {
 
 // Whether to wait is a property that all processes share which write to a terminal or a pipe: the
 // shell's must stay as it is. Opened once more, the same terminal or pipe has one of its own. That
-// is done for each line, which costs microseconds, because the descriptor may be redirected.
+// is done for each line, which takes tens of microseconds, because the descriptor may be redirected.
 ssize_t
 write_apart(int number, const char* text, size_t size)
 {
