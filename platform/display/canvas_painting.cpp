@@ -191,6 +191,24 @@ public:
 	// Qt rounds single points and rising lines to the pixel beyond.
 	QPointF line_end(BPoint point) const { return centre(point) - _Short(); }
 
+	// Makes the view's left top the origin of what is painted from here on. A thick stroke takes the
+	// same pixels then wherever the view is: Qt places its round ends by rounding, which depends on
+	// how large the coordinates are, and only moves what came of it.
+	void move_to_view()
+	{
+		translate(fOffset.x * fRatio, fOffset.y * fRatio);
+		setBrushOrigin(0, 0);
+	}
+
+	// The same point from that origin.
+	QPointF centre_in_view(BPoint point) const
+	{
+		return QPointF((point.x + 0.5F) * fRatio, (point.y + 0.5F) * fRatio);
+	}
+
+	// Thin strokes would land between pixels.
+	bool is_thick() const { return fState.pen_size * fState.scaled() > 1; }
+
 	// A path of the view's coordinates between pixel centres (strokes) or pixel edges (fills).
 	QPainterPath path(const outline& shape, BPoint by, bool stroked) const
 	{
@@ -263,7 +281,12 @@ canvas::stroke_line(const drawing_context& context, BPoint from, BPoint to, cons
 	to = scaled(context, to);
 	painter paint(*this, context);
 	paint.setPen(paint.stroke(p));
-	paint.drawLine(paint.line_end(from), paint.line_end(to));
+	if (paint.is_thick()) {
+		paint.move_to_view();
+		paint.drawLine(paint.centre_in_view(from), paint.centre_in_view(to));
+	} else {
+		paint.drawLine(paint.line_end(from), paint.line_end(to));
+	}
 	_Touched(context, inked(context, in_order(BRect(from, to))));
 }
 
