@@ -102,18 +102,18 @@ reached(const BPoint* pts, int32 num, int pen)
 }
 
 
+// In the pixels of the whole picture.
 static void
-stroke(BView* view, const stretch& area, const BPoint* pts, int32 num, int pen)
+stroke(BView* view, const BPoint* pts, int32 num, int pen)
 {
 	view->SetHighColor(255, 255, 255, 255);
 	view->SetLowColor(0, 0, 0, 255);
 	view->SetPenSize((float)pen);
 	view->SetLineMode(B_ROUND_CAP, B_ROUND_JOIN, 10);
 	view->FillRect(view->Bounds(), B_SOLID_LOW);
-	const BPoint corner((float)area.left, (float)area.top);
-	view->MovePenTo(BPoint(pts[0].x * 0.5F, pts[0].y * 0.5F) - corner);
+	view->MovePenTo(BPoint(pts[0].x * 0.5F, pts[0].y * 0.5F));
 	for (int32 i = 1; i < num; i++)
-		view->StrokeLine(BPoint(pts[i].x * 0.5F, pts[i].y * 0.5F) - corner, B_SOLID_HIGH);
+		view->StrokeLine(BPoint(pts[i].x * 0.5F, pts[i].y * 0.5F), B_SOLID_HIGH);
 }
 
 
@@ -137,9 +137,12 @@ draw_ink(ink_grid& ink, const stretch& area, const BPoint* pts, int32 num, int p
 	BBitmap picture(bounds, B_RGB32, true);
 	if (!picture.IsValid() || !picture.Lock())
 		return false;
-	BView* view = new BView(bounds, "obj_free", B_FOLLOW_NONE, B_WILL_DRAW);
+	// The view begins where the whole picture does, before the bitmap: how coordinates are rounded
+	// depends on their size, so they must stay what they are there.
+	const BRect frame(-(float)area.left, -(float)area.top, bounds.right, bounds.bottom);
+	BView* view = new BView(frame, "obj_free", B_FOLLOW_NONE, B_WILL_DRAW);
 	picture.AddChild(view);
-	stroke(view, area, pts, num, pen);
+	stroke(view, pts, num, pen);
 	view->Sync();
 	picture.RemoveChild(view);
 	delete view;

@@ -164,6 +164,25 @@ TEST(obj_free_contours, of_a_stroke_that_wanders_equal_the_reference)
 }
 
 
+// Upright and level lines, whose round ends lie exactly between pixels.
+TEST(obj_free_contours, of_strokes_with_the_smallest_pen_equal_the_reference_everywhere)
+{
+	canvas_of area(319, 319);
+	unsigned seed = 1;
+	for (int turn = 0; turn < 150; turn++) {
+		std::vector<BPoint> path = {{30, 30}};
+		while (path.size() < 12) {
+			seed = seed * 1664525 + 1013904223;
+			BPoint next = path.back();
+			(seed >> 8 & 1 ? next.x : next.y) = (float)((seed >> 9) % 300);
+			path.push_back(next);
+		}
+		path.erase(path.begin());
+		EXPECT_EQ(outlines_of(path, 5), outlines(inked(path, 5, 160, 160))) << turn;
+	}
+}
+
+
 TEST(obj_free_contours, of_a_stroke_in_the_corners_of_the_canvas_equal_the_reference)
 {
 	canvas_of area(199, 149);
