@@ -12,7 +12,7 @@ object::object(int n)
 	: kind(0),
 	  state(0),
 	  num(std::max(n, 0)),
-	  pts(new BPoint[(size_t)(n > 0 ? n : step)])
+	  pts(new BPoint[(size_t)(num / step + 1) * step])
 {
 }
 

@@ -275,3 +275,17 @@ TEST(obj_round, is_abandoned_by_a_step_back_from_its_only_point)
 	press(made, 10, 20);
 	EXPECT_EQ(step_back(made, 10, 20), -2);
 }
+
+
+// Points that are there from the start leave room for those that come.
+TEST(object_l, appends_to_the_points_that_it_was_made_with)
+{
+	for (int count : {4, 255, 256, 257}) {
+		object_l made(count);
+		press(made, 10, 20);
+		press(made, 30, 40);
+		EXPECT_EQ(made.num, count + 3) << count;
+		EXPECT_EQ(made.pts[count + 2], BPoint(30, 40)) << count;
+		EXPECT_EQ(made.pts[0], BPoint(0, 0)) << count;
+	}
+}
