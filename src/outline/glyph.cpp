@@ -7,6 +7,9 @@
 #include <algorithm>
 #include <limits>
 
+// Font units from the offset of a component without an outline to each side of its frame.
+static const float empty_reach = 4;
+
 
 // The arrays stay unset: only what the counts cover is ever read.
 glyph::glyph(unsigned short index)
@@ -71,8 +74,10 @@ glyph::box(int32 first, int32 end) const
 	using limits = std::numeric_limits<float>;
 	// Right and bottom start from the smallest positive number, not from the lowest.
 	BRect around(limits::max(), limits::max(), limits::min(), limits::min());
-	for (int32 i = first; i < end; i++)
-		around = around | shapes[i]->frame;
+	for (int32 i = first; i < end; i++) {
+		if (shapes[i]->num > 0)
+			around = around | shapes[i]->frame;
+	}
 	return around;
 }
 
@@ -183,6 +188,18 @@ framing(const BRect& around)
 }
 
 
+// What a component's frame goes round. One without an outline has nothing but its offset.
+BRect
+glyph::component_box(int32 k, int32 first, int32 end) const
+{
+	const BRect around = box(first, end);
+	if (around.left <= around.right)
+		return around;
+	const BPoint at(compo_dx[k], compo_dy[k]);
+	return BRect(at.x - empty_reach, at.y - empty_reach, at.x + empty_reach, at.y + empty_reach);
+}
+
+
 void
 glyph::frame_components()
 {
@@ -190,7 +207,7 @@ glyph::frame_components()
 	int32 first = 0;
 	for (int32 k = 0; k < num_compo && num_shape + frames < max_shapes; k++) {
 		const int32 end = std::min(first + compo[k]->num_shape, num_shape);
-		shapes[num_shape + frames] = framing(box(first, end));
+		shapes[num_shape + frames] = framing(component_box(k, first, end));
 		frames++;
 		first = end;
 	}

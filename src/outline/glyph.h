@@ -44,7 +44,7 @@ public:
 	// a glyph must not be stored, its record holds more.
 	bool complete() const;
 
-	// The box around the own contours. It starts from (3.40282347e38, 3.40282347e38,
+	// The box around the points of the own contours. It starts from (3.40282347e38, 3.40282347e38,
 	// 1.17549435e-38, 1.17549435e-38), which an empty glyph gives: right and bottom are never
 	// below 0, on purpose.
 	BRect bounds() const;
@@ -93,8 +93,11 @@ public:
 	// Adds copies of what is on the clipboard, unselected.
 	void paste();
 	// Duplicates the contours selected as a whole, without the offset on purpose; the selection
-	// goes over to the duplicates. Where a point is selected, one is inserted, d away.
+	// goes over to the duplicates. Where a point is selected, one is inserted, d away. What there
+	// is no room to duplicate stays selected.
 	void copy_sel(const BPoint& d);
+	// Whether there is room for all that copy_sel() would add.
+	bool can_copy_sel() const;
 
 	// Takes the component over, with its offset in font units and its matrix in 2.14. True, with
 	// the component still the caller's, when there are seven already. The frames do not follow.
@@ -103,7 +106,8 @@ public:
 	// Destroys a component; true when there is none of that index. The frames do not follow.
 	bool del_compo(unsigned char index);
 	// Adds the components' own contours, transformed, to the contours, and makes the frames anew.
-	// They lie where they are drawn only after a trans().
+	// They lie where they are drawn only after a trans(). A component without points has a frame of
+	// a few units around its offset.
 	void create_composhape();
 	// Destroys contours and frames; the components stay.
 	void clr_composhape();
@@ -131,6 +135,7 @@ public:
 private:
 	int32 reserved() const;
 	BRect box(int32 first, int32 end) const;
+	BRect component_box(int32 k, int32 first, int32 end) const;
 	void flatten(int32 k);
 	void frame_components();
 	void drop_frames();

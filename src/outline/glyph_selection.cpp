@@ -191,11 +191,24 @@ glyph::copy_sel(const BPoint& d)
 {
 	const int32 before = num_shape;
 	for (int32 i = 0; i < before; i++) {
-		if (shapes[i]->sel < 0) {
+		if (shapes[i]->sel < 0 && room() > 0) {
 			add_shape(shapes[i]->copy());
 			shapes[i]->sel = 0;
 		} else if (shapes[i]->sel > 0) {
 			shapes[i]->inspoint(d);
 		}
 	}
+}
+
+
+bool
+glyph::can_copy_sel() const
+{
+	int32 copies = 0;
+	for (int32 i = 0; i < num_shape; i++) {
+		if (shapes[i]->sel > 0 && shapes[i]->num >= shape::max_points)
+			return false;
+		copies += shapes[i]->sel < 0;
+	}
+	return copies <= room();
 }

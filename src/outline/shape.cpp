@@ -210,7 +210,7 @@ shape::tglpoint()
 bool
 shape::delpoint()
 {
-	if (sel <= 0)
+	if (sel <= 0 || num < 1)
 		return false;
 	num--;
 	if (num < 3)
@@ -275,7 +275,8 @@ int
 shape::select_chk(const BRect& r)
 {
 	armed = 0;
-	if (!r.Contains(frame) && !r.Intersects(frame))
+	// The frame of no points counts as contained by rectangles from (0, 0) on.
+	if (num < 1 || (!r.Contains(frame) && !r.Intersects(frame)))
 		return 0;
 	sel = -1;
 	return -1;

@@ -83,7 +83,8 @@ public:
 	void move(const BPoint& d);
 
 	// -1, and selects the whole contour, when r contains or meets the frame; else 0, with the
-	// selection as it was: a rectangle never deselects. Disarms either way.
+	// selection as it was: a rectangle never deselects, nor finds a contour without points. Disarms
+	// either way.
 	int select_chk(const BRect& r);
 
 	// i + 1 for the last point within t of p on both axes, else -1 when the frame contains p, else

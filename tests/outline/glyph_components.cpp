@@ -229,15 +229,39 @@ TEST(glyph_component_frames, of_negative_only_components_stay_odd)
 }
 
 
-TEST(glyph_component_frames, of_empty_components_are_the_box_they_start_from)
+TEST(glyph_component_frames, of_empty_components_are_a_few_units_around_their_offset)
 {
 	glyph made(1);
-	add_part(made, std::make_unique<glyph>(2));
+	add_part(made, std::make_unique<glyph>(2), 200, -50);
 	made.create_composhape();
 	ASSERT_EQ(made.num_shape, 0);
-	const shape& frame = *made.shapes[0];
-	EXPECT_EQ(frame.pts[0], BPoint(3.40282347e38F, 3.40282347e38F));
-	EXPECT_EQ(frame.pts[2], BPoint(1.17549435e-38F, 1.17549435e-38F));
+	EXPECT_EQ(dots(*made.shapes[0]), "196,-54 204,-54 204,-46 196,-46");
+}
+
+
+TEST(glyph_component_frames, of_components_whose_contours_have_no_points_are_so_too)
+{
+	glyph made(1);
+	glyph_ptr part = std::make_unique<glyph>(2);
+	part->add_shape(row(0).release());
+	part->add_shape(row(0).release());
+	add_part(made, std::move(part), 200, 0);
+	add_part(made, one_box(1, 2, 3, 4), 0, 0);
+	made.create_composhape();
+	ASSERT_EQ(made.num_shape, 3);
+	EXPECT_EQ(dots(*made.shapes[3]), "196,-4 204,-4 204,4 196,4");
+	EXPECT_EQ(dots(*made.shapes[4]), "1,2 3,2 3,4 1,4");
+}
+
+
+TEST(glyph_component_frames, pass_over_contours_without_points)
+{
+	glyph made(1);
+	glyph_ptr part = one_box(10, 20, 30, 40);
+	part->add_shape(row(0).release());
+	add_part(made, std::move(part));
+	made.create_composhape();
+	EXPECT_EQ(dots(*made.shapes[2]), "10,20 30,20 30,40 10,40");
 }
 
 

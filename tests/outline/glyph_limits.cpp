@@ -77,16 +77,35 @@ TEST(glyph_limits, let_the_clipboard_hold_a_full_glyph)
 }
 
 
-TEST(glyph_limits, stop_duplicating_and_deselect_all_the_same)
+TEST(glyph_limits, stop_duplicating_and_keep_selected_what_has_no_duplicate)
 {
 	glyph_ptr made = squares(511);
 	select(*made, {-1, -1, -1});
+	EXPECT_FALSE(made->can_copy_sel());
 	made->copy_sel(BPoint(0, 0));
 	EXPECT_EQ(made->num_shape, 512);
 	EXPECT_EQ(made->shapes[0]->sel, 0);
-	EXPECT_EQ(made->shapes[1]->sel, 0);
-	EXPECT_EQ(made->shapes[2]->sel, 0);
+	EXPECT_EQ(made->shapes[1]->sel, -1);
+	EXPECT_EQ(made->shapes[2]->sel, -1);
 	EXPECT_EQ(made->shapes[511]->sel, -1);
+}
+
+
+TEST(glyph_limits, tell_whether_all_that_is_selected_can_be_duplicated)
+{
+	glyph_ptr made = squares(509);
+	select(*made, {-1, -1, -1});
+	EXPECT_TRUE(made->can_copy_sel());
+	made->add_shape(row(1023).release());
+	EXPECT_FALSE(made->can_copy_sel());
+	select(*made, {0, -1, -1});
+	EXPECT_TRUE(made->can_copy_sel());
+	made->shapes[509]->sel = 1;
+	EXPECT_TRUE(made->can_copy_sel());
+	made->add_shape(row(1024).release());
+	select(*made, {0, 0, 0});
+	made->shapes[510]->sel = 1;
+	EXPECT_FALSE(made->can_copy_sel());
 }
 
 
@@ -100,7 +119,7 @@ TEST(glyph_limits, stop_flattening_before_the_frames)
 	EXPECT_EQ(made.sel_end(), 512);
 	// The sixth component has 5 contours of its hundred, the seventh none.
 	EXPECT_EQ(dots(*made.shapes[510]), "0,0 45,0 45,5 0,5");
-	EXPECT_EQ(made.shapes[511]->pts[0], BPoint(3.40282347e38F, 3.40282347e38F));
+	EXPECT_EQ(made.shapes[511]->pts[0], BPoint(-4, -4));
 }
 
 
