@@ -15,8 +15,60 @@
 // The way down to the record at hand, and what is left to spend on it.
 struct ttf_glyf::descent {
 	std::vector<uint16> path;
-	uint32 visits = 0;
+	uint32 visits = most_visits;
+	uint32 reading = most_read;
+	uint32 memory = most_held;
+	// Contours that the component of the outermost glyph can still take from those within it.
+	uint32 useful = glyph::max_shapes;
+
+	// One of the amounts above.
+	using allowance = uint32 descent::*;
+	bool spend(allowance what, uint32 amount);
+	// The glyph that was asked for has slots of its own, which cost nothing here.
+	bool outermost() const { return path.size() == 1; }
+	bool holds_contour();
+	bool holds_flattened(const glyph& g);
 };
+
+
+// Takes an amount from what is left. When that is less nothing is read any more, so that what has
+// been read can still be shown: false.
+bool
+ttf_glyf::descent::spend(allowance what, uint32 amount)
+{
+	if (amount > this->*what) {
+		visits = 0;
+		return false;
+	}
+	this->*what -= amount;
+	return true;
+}
+
+
+bool
+ttf_glyf::descent::holds_contour()
+{
+	if (outermost())
+		return true;
+	if (useful == 0)
+		return false;
+	useful--;
+	return spend(&descent::memory, sizeof(shape));
+}
+
+
+// What create_composhape() is going to make.
+bool
+ttf_glyf::descent::holds_flattened(const glyph& g)
+{
+	if (outermost())
+		return true;
+	int32 contours = g.num_compo;
+	for (int32 k = 0; k < g.num_compo; k++)
+		contours += g.compo[k]->num_shape;
+	const int32 made = std::min<int32>(contours, glyph::max_shapes);
+	return spend(&descent::memory, (uint32)made * sizeof(shape));
+}
 
 
 int
@@ -26,13 +78,13 @@ ttf_glyf::decode(unsigned long offset, unsigned long size, glyph* g)
 		return 0;
 	descent way;
 	way.path.push_back(g->gid);
-	decode_record((uint32)offset, g, way);
+	decode_record((uint32)offset, (uint32)size, g, way);
 	return 0;
 }
 
 
 void
-ttf_glyf::decode_record(uint32 offset, glyph* g, descent& way) const
+ttf_glyf::decode_record(uint32 offset, uint32 size, glyph* g, descent& way) const
 {
 	cursor record(all(), offset);
 	int contours = record.s16();
@@ -40,7 +92,7 @@ ttf_glyf::decode_record(uint32 offset, glyph* g, descent& way) const
 	if (record.failed())
 		g->partial = true;
 	else if (contours >= 0)
-		decode_simple(record, contours, g);
+		decode_simple(record, contours, (uint64)offset + size, g, way);
 	else
 		decode_composite(record, g, way);
 }
@@ -119,8 +171,22 @@ contour_of(const BPoint* places, const uint8* flags, uint32 count)
 }
 
 
+// The number from which encoding counts points on, before the first one: the end of a contour
+// without points when there has been none yet.
+static const uint16 no_point = 0xFFFF;
+
+
+// How many points there are: one more than the number of the last. That is no_point only where the
+// record ends before any, but for a byte of padding; else it is the last of 65,536.
+static uint32
+count_points(const cursor& record, uint16 last, uint64 stop)
+{
+	return last == no_point && record.place() + 1u >= stop ? 0 : last + 1u;
+}
+
+
 void
-ttf_glyf::decode_simple(cursor& record, int contours, glyph* g) const
+ttf_glyf::decode_simple(cursor& record, int contours, uint64 stop, glyph* g, descent& way) const
 {
 	uint32 stated = std::min((uint32)contours, record.left() / 2);
 	g->partial |= stated < (uint32)contours;
@@ -128,8 +194,13 @@ ttf_glyf::decode_simple(cursor& record, int contours, glyph* g) const
 		return;
 	cursor ends = record;
 	record.skip(2 * (stated - 1));
-	uint32 count = record.u16() + 1u;
+	uint16 last = record.u16();
 	record.skip(record.u16());
+	uint32 count = count_points(record, last, stop);
+	if (!way.spend(&descent::reading, count + stated)) {
+		g->partial = true;
+		return;
+	}
 	std::vector<uint8> flags = read_flags(record, count);
 	std::vector<BPoint> places(flags.size());
 	uint32 xs = read_axis(record, flags, x_axis, &BPoint::x, places.data());
@@ -138,15 +209,21 @@ ttf_glyf::decode_simple(cursor& record, int contours, glyph* g) const
 
 	uint32 start = 0;
 	uint32 known = std::min(xs, ys);
-	while (stated-- > 0) {
-		uint32 end = ends.u16() + 1u;
-		uint32 stop = std::min(end, known);
-		uint32 there = stop > start ? stop - start : 0;
-		uint32 kept = g->room() > 0 ? std::min(there, (uint32)shape::max_points) : 0;
-		if (end > known || end <= start || kept < there)
-			g->partial = true;
-		if (kept > 0)
-			g->add_shape(contour_of(&places[start], &flags[start], kept));
+	for (; stated > 0; stated--) {
+		uint16 number = ends.u16();
+		uint32 end = number == no_point && start == 0 && count <= no_point ? 0 : number + 1u;
+		bool whole = end >= start && end <= known;
+		uint32 there = std::min(end, known) > start ? std::min(end, known) - start : 0;
+		uint32 kept = std::min(there, (uint32)shape::max_points);
+		g->partial |= !whole || kept < there;
+		// A contour of no points is one too; one that has lost them all is not.
+		if (kept > 0 || (whole && there == 0)) {
+			if (g->room() == 0 || !way.holds_contour()) {
+				g->partial = true;
+				return;
+			}
+			g->add_shape(contour_of(places.data() + start, flags.data() + start, kept));
+		}
 		start = end;
 	}
 }
@@ -190,7 +267,8 @@ ttf_glyf::decode_composite(cursor& record, glyph* g, descent& way) const
 		flags = record.u16();
 		uint16 index = record.u16();
 		placement p = read_placement(record, flags);
-		if (record.failed() || ++way.visits > most_visits) {
+		// More than is of use to the component of the outermost glyph is not read either.
+		if (record.failed() || way.useful == 0 || !way.spend(&descent::visits, 1)) {
 			g->partial = true;
 			break;
 		}
@@ -199,32 +277,37 @@ ttf_glyf::decode_composite(cursor& record, glyph* g, descent& way) const
 			continue;
 		}
 		glyph* part = decode_component(index, g->depth + 1, way);
+		if (way.outermost())
+			way.useful = glyph::max_shapes;
 		if (part == nullptr) {
 			g->partial = true;
 			continue;
 		}
-		g->partial |= part->partial;
 		g->add_compo(part, p.dx, p.dy, p.a, p.b, p.c, p.d);
 	}
-	g->create_composhape();
+	if (way.holds_flattened(*g))
+		g->create_composhape();
+	else
+		g->partial = true;
 }
 
 
 // The component's own glyph, empty for an empty record. Null for one that has no place, that
-// contains itself, or that lies too deep.
+// contains itself, that lies too deep, or for which there is no memory left.
 glyph*
 ttf_glyf::decode_component(uint16 index, int depth, descent& way) const
 {
 	uint32 offset;
 	uint32 size;
 	bool repeated = std::find(way.path.begin(), way.path.end(), index) != way.path.end();
-	if (repeated || depth > deepest || !owner->find_glyph(index, &offset, &size))
+	if (repeated || depth > deepest || !owner->find_glyph(index, &offset, &size)
+		|| !way.spend(&descent::memory, sizeof(glyph)))
 		return nullptr;
 	auto part = std::make_unique<glyph>(index);
 	part->depth = depth;
 	if (size != 0) {
 		way.path.push_back(index);
-		decode_record(offset, part.get(), way);
+		decode_record(offset, size, part.get(), way);
 		way.path.pop_back();
 	}
 	return part.release();

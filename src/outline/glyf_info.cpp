@@ -1,7 +1,7 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 
-// Statistics of glyf records.
+// What records of glyf tell without being decoded: statistics, and which glyphs they name.
 #include "font/cursor.h"
 #include "font/glyph_places.h"
 #include "outline/glyf_record.h"
@@ -21,7 +21,7 @@ struct ttf_glyf::survey {
 	const glyph_places places;
 	std::vector<glyph_info> known; // by glyph; empty when nothing is kept
 	std::vector<uint16> path;
-	uint32 visits = 0;
+	uint32 visits = most_visits; // left for the glyph at hand
 };
 
 
@@ -44,9 +44,14 @@ ttf_glyf::all_info(uint32 count) const
 {
 	survey notes(*owner);
 	notes.known.resize(count, {not_known, 0, 0, 0});
+	// More component records than the table can hold, unless glyphs share them: a font in which
+	// all do would ask for thousands of millions.
+	uint64 left = (uint64)length + most_visits;
 	for (uint32 i = 0; i < count; i++) {
-		notes.visits = 0;
+		const uint32 allowed = (uint32)std::min<uint64>(left, most_visits);
+		notes.visits = allowed;
 		info_of((uint16)i, notes);
+		left -= allowed - notes.visits;
 	}
 	return std::move(notes.known);
 }
@@ -105,17 +110,37 @@ placement_size(uint16 flags)
 }
 
 
+// The glyphs that a composite names, one component record after the other.
+class component_names {
+public:
+	// A cursor behind the record's header; borrowed.
+	explicit component_names(cursor& record) : fRecord(record) {}
+
+	// False behind the last one, and where the bytes end.
+	bool next(uint16* index)
+	{
+		if (!(fFlags & more_components))
+			return false;
+		fFlags = fRecord.u16();
+		*index = fRecord.u16();
+		fRecord.skip(placement_size(fFlags));
+		return !fRecord.failed();
+	}
+
+private:
+	cursor& fRecord;
+	uint16 fFlags = more_components;
+};
+
+
 glyph_info
 ttf_glyf::composite_info(cursor& record, survey& notes) const
 {
 	glyph_info sum = {};
-	uint16 flags = more_components;
-	while (flags & more_components) {
-		flags = record.u16();
-		uint16 index = record.u16();
-		record.skip(placement_size(flags));
-		if (record.failed() || ++notes.visits > most_visits)
-			break;
+	component_names names(record);
+	uint16 index;
+	while (names.next(&index) && notes.visits > 0) {
+		notes.visits--;
 		glyph_info part = info_of(index, notes);
 		sum.components++;
 		sum.contours += part.contours;
@@ -124,4 +149,40 @@ ttf_glyf::composite_info(cursor& record, survey& notes) const
 	}
 	sum.depth++;
 	return sum;
+}
+
+
+// Each glyph is looked into once, so that loops end; as in a recount, no more records than a table
+// of its length can hold.
+bool
+ttf_glyf::contains(uint16 index, uint16 sought) const
+{
+	const glyph_places places(*owner);
+	std::vector<bool> seen(65536);
+	std::vector<uint16> open = {index};
+	seen[index] = true;
+	uint64 left = (uint64)length + most_visits;
+	while (!open.empty()) {
+		uint32 offset;
+		uint32 size;
+		const uint16 next = open.back();
+		open.pop_back();
+		if (next == sought)
+			return true;
+		if (!places.find(next, &offset, &size) || size == 0)
+			continue;
+		cursor record(all(), offset);
+		if (record.s16() >= 0)
+			continue;
+		record.skip(record_header - 2);
+		component_names names(record);
+		for (uint16 part; names.next(&part);) {
+			if (left-- == 0)
+				return true;
+			if (!seen[part])
+				open.push_back(part);
+			seen[part] = true;
+		}
+	}
+	return false;
 }

@@ -43,9 +43,13 @@ struct axis {
 constexpr axis x_axis = {x_is_byte, x_same_or_positive};
 constexpr axis y_axis = {y_is_byte, y_same_or_positive};
 
-// Bounds on what damaged or malicious records may ask for: nesting of components, and component
-// records visited by one outermost call.
+// Bounds on what damaged or malicious records may ask for in one outermost call: how deep components
+// nest, how many component records are visited, how many points and contours are read, and how many
+// bytes the components take in memory. A few hundred bytes of glyf can name more of each than any
+// machine has.
 constexpr int deepest = 32;
 constexpr uint32 most_visits = 65536;
+constexpr uint32 most_read = 1 << 20;
+constexpr uint32 most_held = 48 << 20;
 
 #endif

@@ -30,7 +30,8 @@ public:
 
 	// Appends the contours or components of the record to the glyph, in font units, y upward. What
 	// has no room in the glyph, or not all its bytes in the table, is left out and the glyph marked
-	// partial. A composite that contains itself stops at the repetition.
+	// partial. A composite that contains itself stops at the repetition, and one whose components
+	// would take more than 48 MiB or a moment stops there.
 	// @param offset of the record in the table, bytes
 	// @param size its stated length; 0 does nothing
 	int decode(unsigned long offset, unsigned long size, glyph* g);
@@ -47,9 +48,15 @@ public:
 	int get_info(unsigned short index, unsigned short* depth, unsigned short* components,
 		unsigned short* contours, unsigned short* points);
 
-	// The same of every glyph from 0 on, each worked out once.
+	// The same of every glyph from 0 on, each worked out once. Where glyphs share more component
+	// records than a table of this length can hold, the rest counts as empty.
 	// @param count how many glyphs there are
 	std::vector<glyph_info> all_info(uint32 count) const;
+
+	// Whether a glyph is the one sought, or has it among its components at any depth, whatever of
+	// that is ever decoded. In doubt it is: when there are more records to look at than a table of
+	// this length can hold.
+	bool contains(uint16 index, uint16 sought) const;
 
 	// The stored box in font units; (32767, 32767, -32768, -32768) for an empty glyph.
 	int get_rect(unsigned short index, short* xmin, short* ymin, short* xmax, short* ymax);
@@ -62,8 +69,8 @@ private:
 	struct descent;
 	struct survey;
 
-	void decode_record(uint32 offset, glyph* g, descent& way) const;
-	void decode_simple(cursor& record, int contours, glyph* g) const;
+	void decode_record(uint32 offset, uint32 size, glyph* g, descent& way) const;
+	void decode_simple(cursor& record, int contours, uint64 stop, glyph* g, descent& way) const;
 	void decode_composite(cursor& record, glyph* g, descent& way) const;
 	glyph* decode_component(uint16 index, int depth, descent& way) const;
 	glyph_info info_of(uint16 index, survey& notes) const;
