@@ -93,8 +93,9 @@ public:
 	// Appends a glyph's outline to g, in font units; an empty glyph leaves it untouched. 0, or -1
 	// when there is no such glyph.
 	int get_glyph(int index, glyph* g);
-	// Writes g in the place of a glyph and moves those behind it. 0, or -1 with nothing changed
-	// when there is no such glyph or its place is not inside glyf.
+	// Writes g in the place of a glyph and moves those behind it. A font whose short loca is too
+	// small for that gets a long one first. 0, or -1 with nothing changed when there is no such
+	// glyph, its place is not inside glyf, or head is too short to tell of a long loca.
 	int set_glyph(int index, const glyph* g);
 	// Reads the embedded bitmap of b's glyph and size. 0, or -1 when the font has none that can be
 	// read; b may have taken its metrics over, but pixels always have the size that b tells.
@@ -150,6 +151,7 @@ private:
 	ttf_table* find(uint32 tag) const;
 	void make_dir(uint32 count);
 	bool load_dir(BFile& file);
+	bool fit_loca(int index, uint32 size);
 	bool in_proportion(uint64 size) const;
 	bool saves_in_proportion(uint64 size) const;
 	bool load_table(BFile& file, const unsigned char* record);

@@ -78,10 +78,24 @@ ttf::set_glyph(int index, const glyph* g)
 	// A place that ends before it starts has a length of nearly 4 GiB.
 	if (offset > glyf->length || size > glyf->length - offset)
 		return -1;
-	unsigned long place = offset;
-	unsigned long length = size;
-	glyf->encode(g, &place, &length);
-	return loca->chg_length(head->is32loca(), index, length);
+	const std::vector<uint8> record = glyf->record_of(g, offset, size);
+	if (!fit_loca(index, (uint32)record.size()) || !glyf->replace(offset, size, record))
+		return -1;
+	return loca->chg_length(head->is32loca(), index, record.size());
+}
+
+
+// Short entries reach no further than 128 KiB. Makes them long where a glyph of so many bytes would
+// move others beyond that; false, with nothing changed, when they have to be and cannot.
+bool
+ttf::fit_loca(int index, uint32 size)
+{
+	if (head->is32loca() || !loca->outgrown_by(index, size, numglyphs(), glyf->length))
+		return true;
+	if (!head->holds_locformat() || !loca->make_long(glyf->length))
+		return false;
+	head->set32loca();
+	return true;
 }
 
 

@@ -189,6 +189,20 @@ ttf_head::is32loca() const
 }
 
 
+bool
+ttf_head::holds_locformat() const
+{
+	return all().has(at_locformat, sizeof(uint16));
+}
+
+
+void
+ttf_head::set32loca()
+{
+	put16(at_locformat, 1);
+}
+
+
 unsigned short
 ttf_head::unitsperem() const
 {

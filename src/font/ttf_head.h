@@ -43,6 +43,9 @@ public:
 
 	// Whether loca holds 32-bit offsets: the format is 1; every other value means 16-bit ones.
 	bool is32loca() const;
+	// Whether the table reaches as far as the format; only then can it be made 1.
+	bool holds_locformat() const;
+	void set32loca();
 
 	unsigned short unitsperem() const;
 

@@ -27,12 +27,26 @@ public:
 	// outside the table. The bytes in glyf have been moved before.
 	int chg_length(bool is32, int index, unsigned long size);
 
+	// Whether short entries are too small for the places that later glyphs are to have once this one
+	// has so many bytes: one would pass FFFF. An entry of FFFF that is a place in glyf, and not the
+	// mark of none, cannot move either. For a glyph with a place inside glyf.
+	// @param glyphs entries behind the end of the last one do not count
+	// @param glyf the length of that table
+	bool outgrown_by(int index, unsigned long size, uint32 glyphs, uint32 glyf) const;
+
+	// Rewrites short entries as long ones; a place stays where it is, and what is none stays all
+	// ones. False, with nothing changed, when there is no memory for them.
+	// @param glyf the length of that table
+	bool make_long(uint32 glyf);
+
 private:
 	// Whether the entry at least begins inside the table; a piece of one reads as 0.
 	bool holds(bool is32, int64 index) const
 	{
 		return index >= 0 && index * (is32 ? 4 : 2) < (int64)length;
 	}
+	// All ones and outside of glyf, where no glyph can be.
+	static bool is_none(uint16 word, uint32 glyf) { return word == 0xFFFF && 2u * word > glyf; }
 	uint32 entry(bool is32, uint32 index) const { return is32 ? u32(4 * index) : u16(2 * index); }
 };
 

@@ -183,18 +183,22 @@ composite_record(const glyph& g)
 int
 ttf_glyf::encode(const glyph* g, unsigned long* offset, unsigned long* size)
 {
-	uint32 place = (uint32)*offset;
-	uint32 old = (uint32)*size;
-	if (place > length || old > length - place)
-		return 0;
+	octets record = record_of(g, (uint32)*offset, (uint32)*size);
+	if (replace((uint32)*offset, (uint32)*size, record))
+		*size = record.size();
+	return 0;
+}
+
+
+octets
+ttf_glyf::record_of(const glyph* g, uint32 offset, uint32 size) const
+{
 	octets record =
-		g->num_compo > 0 ? composite_record(*g) : simple_record(*g, instructions(place, old));
+		g->num_compo > 0 ? composite_record(*g) : simple_record(*g, instructions(offset, size));
 	// Records keep even lengths.
 	if (record.size() % 2 != 0)
 		record.push_back(0);
-	splice(place, old, record);
-	*size = record.size();
-	return 0;
+	return record;
 }
 
 

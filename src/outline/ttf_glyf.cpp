@@ -51,17 +51,21 @@ ttf_glyf::get_rect(unsigned short index, short* xmin, short* ymin, short* xmax, 
 }
 
 
-// Puts the record in the place of size bytes at the offset.
-void
-ttf_glyf::splice(uint32 offset, uint32 size, const std::vector<uint8>& record)
+bool
+ttf_glyf::replace(uint32 offset, uint32 size, const std::vector<uint8>& record)
 {
+	if (offset > length || size > length - offset)
+		return false;
 	uint32 tail = length - offset - size;
-	uint32 grown = offset + (uint32)record.size() + tail;
-	unsigned char* fresh = padded32(grown);
+	uint64 grown = (uint64)offset + record.size() + tail;
+	unsigned char* fresh = grown <= UINT32_MAX ? padded32((uint32)grown) : nullptr;
+	if (fresh == nullptr)
+		return false;
 	memcpy(fresh, data, offset);
 	std::copy(record.begin(), record.end(), fresh + offset);
 	memcpy(fresh + offset + record.size(), data + offset + size, tail);
 	delete[] data;
 	data = fresh;
-	length = grown;
+	length = (uint32)grown;
+	return true;
 }

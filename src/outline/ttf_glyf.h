@@ -42,6 +42,10 @@ public:
 	// @param size in: the old record's length; out: the new one's, always even
 	// A place that is not inside the table changes nothing.
 	int encode(const glyph* g, unsigned long* offset, unsigned long* size);
+	// The two steps of that: the record that takes the place of size bytes at an offset, and putting
+	// it there. False, with nothing changed, when that is not inside the table or there is no memory.
+	std::vector<uint8> record_of(const glyph* g, uint32 offset, uint32 size) const;
+	bool replace(uint32 offset, uint32 size, const std::vector<uint8>& record);
 
 	// Statistics of one glyph: component depth (0 for a simple one), components of its own level,
 	// contours and points. All 0 for an empty one and for an index that has no place.
@@ -77,7 +81,6 @@ private:
 	glyph_info record_info(uint16 index, uint32 offset, survey& notes) const;
 	glyph_info composite_info(cursor& record, survey& notes) const;
 	std::vector<uint8> instructions(uint32 offset, unsigned long size) const;
-	void splice(uint32 offset, uint32 size, const std::vector<uint8>& record);
 };
 
 #endif
