@@ -142,6 +142,7 @@ private:
 	void del_component(const BMessage* message);
 	void show_components();
 	void place_components();
+	void move_components();
 	void copy();
 	void paste();
 	void take_tool(int8 tool);

@@ -13,11 +13,13 @@
 #include "font/messages.h"
 #include "font/ttf.h"
 #include "outline/glyph.h"
+#include "outline/shape.h"
 #include "outline/ttf_glyf.h"
 #include <AppDefs.h>
 #include <cmath>
 #include <memory>
 #include <Message.h>
+#include <vector>
 
 // 1.0 in 2.14.
 static const uint16 one = 0x4000;
@@ -190,6 +192,9 @@ glyfeditview::add_component(const BMessage* message)
 	int16 sub;
 	if (gno == -1 || message->FindInt16("sub", &sub) != B_OK)
 		return;
+	// A glyph within itself has no outline, and storing it would destroy the one it had.
+	if (glyf_table->contains((uint16)sub, (uint16)gno))
+		return;
 	glyph* part = new glyph((unsigned short)sub);
 	part->depth = 1;
 	if (glyf_table->owner->get_glyph((uint16)sub, part) != 0) {
@@ -215,10 +220,11 @@ glyfeditview::del_component(const BMessage* message)
 }
 
 
-// A component has come or gone.
+// A component has come or gone: it is another outline, with nothing selected.
 void
 glyfeditview::show_components()
 {
+	reset_editing();
 	place_components();
 	send2toolv(tell_glyph);
 	redraw(draw_full);
@@ -233,6 +239,21 @@ glyfeditview::place_components()
 	cur_glyph->clr_composhape();
 	cur_glyph->create_composhape();
 	cur_glyph->trans(glyf_table->owner->bounds(), canvas);
+}
+
+
+// The handles are made anew where their components are, and are selected as they were.
+void
+glyfeditview::move_components()
+{
+	std::vector<int32> selection;
+	for (int32 i = cur_glyph->sel_begin(); i < cur_glyph->sel_end(); i++)
+		selection.push_back(cur_glyph->shapes[i]->sel);
+	place_components();
+	const int32 first = cur_glyph->sel_begin();
+	selection.resize((size_t)(cur_glyph->sel_end() - first));
+	for (size_t i = 0; i < selection.size(); i++)
+		cur_glyph->shapes[first + (int32)i]->sel = selection[i];
 }
 
 

@@ -204,9 +204,13 @@ glyfeditview::drag_band(BPoint where)
 void
 glyfeditview::drag_selection(BPoint where, unsigned char buttons)
 {
+	const bool copies = first_move && buttons == tertiary;
+	// What would be dragged is the copy: the original stays where it is also when there is no room.
+	if (copies && !cur_glyph->can_copy_sel())
+		return;
 	redraw(draw_overlays);
 	const BPoint by = where - anchor_point;
-	if (first_move && buttons == tertiary) {
+	if (copies) {
 		first_move = 0;
 		cur_glyph->copy_sel(by);
 	}
@@ -286,7 +290,7 @@ glyfeditview::end_drag()
 {
 	// A handle that was moved has moved its component.
 	if (is_composite())
-		place_components();
+		move_components();
 	edit_state = selecting;
 	redraw(draw_full);
 }

@@ -87,6 +87,65 @@ TEST(outline_components, a_glyph_that_there_is_not_changes_nothing)
 }
 
 
+// Storing it would put a reference to itself in the place of its outline.
+TEST(outline_components, a_glyph_cannot_be_one_of_itself)
+{
+	at_outlines([](outline_stage& stage) {
+		stage.choose("gno", 5);
+		stage.heard();
+		stage.add(5);
+		EXPECT_EQ(stage.heard(), texts());
+		EXPECT_EQ(stage.outline(), square);
+		EXPECT_EQ(stage.components(), "");
+		stage.tell('Gset');
+		EXPECT_EQ(stage.outline(), square);
+		EXPECT_EQ(part(record(5), 0, 2), hex("0001"));
+	});
+}
+
+
+TEST(outline_components, a_composite_cannot_be_one_of_a_glyph_that_it_contains)
+{
+	at_outlines([](outline_stage& stage) {
+		stage.choose("gno", 3);
+		stage.add(4);
+		stage.tell('Gset');
+		EXPECT_EQ(stage.components(), "0001 at 0,0; 0002 at 10,-20; 0004 at 0,0");
+		// Glyph 4 is within 3 now, and glyph 1 within both.
+		stage.choose("gno", 4);
+		stage.heard();
+		stage.add(3);
+		EXPECT_EQ(stage.heard(), texts());
+		EXPECT_EQ(stage.components(), "0001 at 0,0");
+		stage.choose("gno", 1);
+		stage.heard();
+		stage.add(3);
+		EXPECT_EQ(stage.heard(), texts());
+		EXPECT_EQ(stage.components(), "");
+		// The other way round nothing is within itself.
+		stage.choose("gno", 6);
+		stage.tell('Gclr');
+		stage.add(3);
+		EXPECT_EQ(stage.components(), "0003 at 0,0");
+	});
+}
+
+
+TEST(outline_components, a_refused_one_leaves_tool_and_selection)
+{
+	at_outlines([](outline_stage& stage) {
+		stage.choose("gno", 2);
+		stage.key('8');
+		stage.add(3);
+		EXPECT_EQ(stage.selection(), "-1 0");
+		EXPECT_EQ(stage.state(), "gno 0002 chr 00e9 mode 0 state 1");
+		stage.tell('drre');
+		stage.add(2);
+		EXPECT_EQ(stage.state(), "gno 0002 chr 00e9 mode 2 state 0");
+	});
+}
+
+
 TEST(outline_components, one_is_taken_away_and_the_others_keep_their_order)
 {
 	at_outlines([](outline_stage& stage) {
@@ -101,6 +160,26 @@ TEST(outline_components, one_is_taken_away_and_the_others_keep_their_order)
 			"100,411 100,211 300,211 300,411");
 		stage.del(1);
 		EXPECT_EQ(stage.components(), "0002 at 10,-20");
+	});
+}
+
+
+// The handles are new ones, so that "8" selects the first and does not order what is selected.
+TEST(outline_components, nothing_is_selected_after_one_was_added_or_taken_away)
+{
+	at_outlines([](outline_stage& stage) {
+		stage.choose("gno", 3);
+		stage.key('8');
+		EXPECT_EQ(stage.selection(), "-1 0");
+		stage.add(5);
+		EXPECT_EQ(stage.selection(), "0 0 0");
+		EXPECT_EQ(stage.state(), "gno 0003 chr 3042 mode 0 state 0");
+		stage.key('8');
+		EXPECT_EQ(stage.selection(), "-1 0 0");
+		stage.del(1);
+		EXPECT_EQ(stage.selection(), "0 0");
+		stage.key('2');
+		EXPECT_EQ(stage.selection(), "0 -1");
 	});
 }
 
@@ -204,5 +283,21 @@ TEST(outline_components, a_glyph_that_could_not_be_shown_whole_is_not_written)
 		stage.tell('Gclr');
 		stage.tell('Gset');
 		EXPECT_EQ(part(record(6), 0, 2), hex("0000"));
+	});
+}
+
+
+TEST(outline_components, a_contour_without_points_does_not_keep_a_glyph_from_being_set)
+{
+	at_outlines([](outline_stage& stage) {
+		stage.choose("gno", 5);
+		stage.locked([] { cur_glyph->add_shape(new shape(0)); });
+		for (int i = 0; i < 2; i++) {
+			stage.tell('Gset');
+			octets written = record(5);
+			EXPECT_EQ(part(written, 0, 2), hex("0002"));
+			EXPECT_EQ(part(written, 10, 4), hex("0003 0003"));
+			EXPECT_EQ(stage.outline(), std::string(square) + " |");
+		}
 	});
 }

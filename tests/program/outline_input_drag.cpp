@@ -249,7 +249,7 @@ TEST(outline_input, a_handle_dragged_moves_its_component)
 			EXPECT_EQ(cur_glyph->shapes[2]->frame, BRect(23, 16, 63, 56));
 		});
 		EXPECT_EQ(user.state(), 1);
-		EXPECT_EQ(user.selection(), "0 0");
+		EXPECT_EQ(user.selection(), "-1 0");
 		EXPECT_TRUE(user.looks_fresh());
 	});
 }
