@@ -9,8 +9,18 @@
 
 class ttf;
 
-// The entry point of each target, as libFuzzer names it.
+// What each target does with an input; ends the process where the program fails.
+void take_input(const uint8_t* data, size_t size);
+
+// The entry point as libFuzzer names it: take_input() within the limits.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
+
+// What an input may take, whether a fuzzer made it or it is replayed: seconds of this process's own
+// work, however busy the machine is otherwise, and megabytes in memory with all that the sanitizers
+// add. Far more than any input needs that is dealt with as it should be, and far less than what is to
+// be found: a few hundred bytes that ask for minutes or gigabytes.
+constexpr int most_seconds = 10;
+constexpr int most_megabytes = 500;
 
 // Loads a font from memory; what load answered.
 int load_octets(ttf& font, const octets& contents);
