@@ -7,12 +7,6 @@
 
 namespace kits {
 
-// Where a control's peer reports to: a handler of a window's looper.
-struct report_address {
-	int32 looper;
-	int32 handler;
-};
-
 struct scroll_bar_look {
 	int32 min;
 	int32 max;

@@ -4,7 +4,9 @@
 #include "display/display.h"
 
 #include "display/command_queue.h"
+#include "display/key_filter.h"
 #include "display/look.h"
+#include "display/x_keyboard.h"
 
 #include <atomic>
 #include <cerrno>
@@ -12,6 +14,7 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <QSettings>
+#include <QWindow>
 #include <semaphore>
 #include <unistd.h>
 
@@ -87,6 +90,16 @@ make_application()
 			program_invocation_short_name);
 }
 
+
+void
+watch_keys(QApplication& application)
+{
+	application.installEventFilter(&keyboard());
+	QObject::connect(
+		&application, &QGuiApplication::focusWindowChanged, &keyboard(), &key_filter::moved_to);
+	x_keyboard::watch_grabs([] { keyboard().look_again(); });
+}
+
 }
 
 
@@ -99,6 +112,7 @@ display::start()
 	commands = new command_queue;
 	leave_home_alone();
 	make_application();
+	watch_keys(*qApp);
 	is_running = true;
 }
 

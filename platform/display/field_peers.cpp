@@ -4,9 +4,9 @@
 
 #include "display/button_widgets.h"
 #include "display/display.h"
-#include "display/focus.h"
 #include "display/text_widget.h"
 #include "display/view_widget.h"
+#include "display/window_widget.h"
 
 using namespace kits;
 
@@ -90,27 +90,22 @@ field_peers::set_text_look(const peer_ref& field, const control_look& look, floa
 
 
 void
-field_peers::set_text(const peer_ref& field, const std::string& text, int32 serial)
+field_peers::set_text(const peer_ref& field, const std::string& text, int32 seen)
 {
 	display::post([=] {
 		if (field->widget)
-			static_cast<text_widget*>(field->widget)->set_text(text, serial);
+			static_cast<text_widget*>(field->widget)->set_text(text, seen);
 	});
 }
 
 
 void
-field_peers::focus(const peer_ref& window, const peer_ref& control, int32 serial)
+field_peers::focus(const peer_ref& window, const peer_ref& view, int32 seen)
 {
 	display::post([=] {
 		if (window->widget)
-			set_focus_serial(*window->widget, serial);
-		QWidget* wanted = control ? control->widget : nullptr;
-		if (wanted && wanted->focusProxy())
-			wanted = wanted->focusProxy();
-		if (wanted && wanted->focusPolicy() != Qt::NoFocus)
-			wanted->setFocus(Qt::OtherFocusReason);
-		else if (window->widget && window->widget->focusWidget())
-			window->widget->focusWidget()->clearFocus();
+			static_cast<window_widget*>(window->widget)
+				->focus()
+				.give(view ? view->widget : nullptr, seen);
 	});
 }

@@ -10,13 +10,8 @@ namespace kits {
 
 // Reports of what a user did to a button, a check box or a field.
 constexpr uint32 control_invoked = '_INV';
-constexpr uint32 field_edited = '_EDT';  // string "text", int32 "serial"
+constexpr uint32 field_edited = '_EDT';  // string "text", int32 "edits": how many so far
 constexpr uint32 field_entered = '_ENT'; // the same, on Enter
-// From anything that can hold the keyboard on the display: int32 "serial", see focus().
-constexpr uint32 focus_gained = '_FGN';
-constexpr uint32 focus_lost = '_FLS';
-// To the window: bool "forward", when Tab is pressed in such a peer.
-constexpr uint32 focus_walks = '_FWK';
 
 // Commands; any thread.
 namespace field_peers {
@@ -33,12 +28,11 @@ void set_check_box(const peer_ref& box, const control_look& look);
 peer_ref make_text(const peer_ref& parent, BRect frame, bool shown, const control_look& look,
 	float divider, report_address report);
 void set_text_look(const peer_ref& field, const control_look& look, float divider);
-// The serial comes back with what is typed from now on.
-void set_text(const peer_ref& field, const std::string& text, int32 serial);
+// Seen is how many of the user's edits the program has heard of: later ones stand.
+void set_text(const peer_ref& field, const std::string& text, int32 seen);
 
-// Gives the peer the display's keyboard focus. Where it cannot hold it, or is null, the window has
-// it: keys then go to the kit. The serial comes back with what is reported from then on.
-void focus(const peer_ref& window, const peer_ref& control, int32 serial);
+// Gives the peer of a view the keyboard; see focus_keeper::give().
+void focus(const peer_ref& window, const peer_ref& view, int32 seen);
 
 }
 }

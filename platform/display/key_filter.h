@@ -6,40 +6,62 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <QKeyEvent>
-#include <QTimer>
+#include <QObject>
+#include <QPointer>
 #include <SupportDefs.h>
+
+class QKeyEvent;
+class QWindow;
 
 namespace kits {
 
-// Tells the repeats of a held key from new presses. The X server sends a repeat as a release and a
-// press at the same time, and Qt's mark on them is not reliable; so a release is held back until it
-// is clear whether its press follows at once. Display thread.
-class key_filter {
+// Stands between the display's server and everything that takes keys, and makes of a held key the
+// same everywhere: one press, repeats that are marked as such, one release, all for whoever had the
+// keyboard at the press. Who loses the keyboard hears of the release then; what the key still does
+// after that is nobody's. Display thread.
+class key_filter : public QObject {
 public:
-	// Called with down or up, the event and which repeat it is (0: none).
-	using receiver = std::function<void(bool down, const QKeyEvent& event, int32 repeat)>;
+	// Whether the server holds the key down; by its number there.
+	using key_state = std::function<bool(quint32 code)>;
 
-	explicit key_filter(receiver report) : fReport(std::move(report)) {}
-	~key_filter();
+	// With a key state the server tells each release as it happens, and a press of a key that is
+	// down repeats it. Without one the toolkit's marks tell what is a repeat.
+	explicit key_filter(key_state is_down = nullptr) : fIsDown(std::move(is_down)) {}
 
-	void press(const QKeyEvent& event);
-	void release(const QKeyEvent& event);
+	// Which repeat the press is, counted from 1; 0 is none.
+	int32 repeats_of(const QKeyEvent& press) const;
+	// The receiver loses the keyboard.
+	void let_go(const QWidget& receiver);
+	// The keyboard has come to that window of the program, or to none.
+	void moved_to(const QWindow* window);
+	// Keys may have gone up unseen.
+	void look_again();
+
+	bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
 	struct held_key {
+		// Null when it has gone.
+		QPointer<QObject> receiver;
+		std::shared_ptr<const QKeyEvent> press;
 		int32 repeats = 0;
-		// A release that may turn out to be half of a repeat; counts as activity while it waits.
-		std::unique_ptr<QKeyEvent> release;
-		std::unique_ptr<QTimer> timer;
+		// The receiver has been told of the release.
+		bool spent = false;
 	};
 
-	void _LetGo(quint32 code);
+	bool _Press(const QWindow& window, QKeyEvent& event);
+	bool _Release(const QWindow& window, QKeyEvent& event);
+	// All keys that the condition holds for.
+	void _LetGo(const std::function<bool(const held_key&)>& condition);
+	void _Forget(quint32 code);
 
-	const receiver fReport;
+	const key_state fIsDown;
 	// By native scan code.
 	std::map<quint32, held_key> fHeld;
 };
+
+// The one of the display.
+key_filter& keyboard();
 
 }
 

@@ -12,11 +12,10 @@
 
 namespace kits {
 
-// A control of the toolkit that tells its kit object when it gets the display's keyboard and loses
-// it, leaves the walk between controls to the kit, and lets no pointer event through to what lies
-// behind.
+// A control of the toolkit that can have the keyboard, leaves the walk between controls to the
+// window, and lets no pointer event through to what lies behind.
 template <typename Control>
-class keyboard_holder : public Control {
+class keyboard_holder : public Control, public focus_holder {
 public:
 	template <typename... Arguments>
 	explicit keyboard_holder(report_address report, Arguments... arguments)
@@ -26,20 +25,22 @@ public:
 		this->setAttribute(Qt::WA_NoMousePropagation);
 	}
 
+	int32 view() const override { return fReport.handler; }
+
 protected:
 	void focusInEvent(QFocusEvent* event) override
 	{
 		Control::focusInEvent(event);
-		report_focus(*this, *event, fReport);
+		if (focus_keeper* keeper = focus_keeper_of(*this))
+			keeper->got(*this);
 	}
 
-	void focusOutEvent(QFocusEvent* event) override
+	bool focusNextPrevChild(bool next) override
 	{
-		Control::focusOutEvent(event);
-		report_focus(*this, *event, fReport);
+		if (focus_keeper* keeper = focus_keeper_of(*this))
+			keeper->walk(next);
+		return true;
 	}
-
-	bool focusNextPrevChild(bool next) override { return walk_focus(fReport.looper, next); }
 
 	void report(const BMessage& message) { post_to(fReport.looper, fReport.handler, message); }
 

@@ -3,6 +3,7 @@
 #include "display/look.h"
 
 #include "display/convert.h"
+#include "display/focus.h"
 #include "display/fonts.h"
 
 #include <QApplication>
@@ -201,6 +202,9 @@ kits::apply(const control_look& look, QWidget& widget)
 {
 	widget.setPalette(palette_of(to_qcolor(look.background)));
 	widget.setFont(screen_font(look.font.Size(), look.font.Face() & B_BOLD_FACE));
+	focus_keeper* keeper = focus_keeper_of(widget);
+	if (!look.enabled && keeper)
+		keeper->leave(widget);
 	widget.setEnabled(look.enabled);
 }
 

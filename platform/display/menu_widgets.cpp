@@ -5,6 +5,7 @@
 #include "display/look.h"
 
 #include <algorithm>
+#include <QMenuBar>
 #include <QMouseEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -20,6 +21,24 @@ constexpr int arrow_height = 4;
 constexpr int gap = 3;
 constexpr int around = 2 * margin + gap + arrow_width;
 
+}
+
+
+bool
+kits::open_menu_bar(const QWidget& window)
+{
+	for (QMenuBar* bar : window.findChildren<QMenuBar*>()) {
+		if (!bar->isVisible())
+			continue;
+		for (QAction* action : bar->actions()) {
+			if (!action->menu() || !action->isEnabled())
+				continue;
+			bar->setActiveAction(action);
+			action->menu()->setActiveAction(action->menu()->actions().value(0));
+			return true;
+		}
+	}
+	return false;
 }
 
 

@@ -16,6 +16,9 @@ namespace kits {
 void fill_menu(QWidget* menu, const std::vector<menu_entry>& entries, report_address report);
 void empty_menu(QWidget* menu);
 
+// Opens the first menu of the window's menu bar for the keyboard. False where there is none.
+bool open_menu_bar(const QWidget& window);
+
 // A button that says what is chosen, with an arrow, and opens its menu when it is pressed.
 class menu_button : public keyboard_holder<QPushButton> {
 public:

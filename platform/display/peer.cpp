@@ -10,15 +10,28 @@
 using namespace kits;
 
 
+namespace {
+
+void
+leave(const QWidget& widget)
+{
+	if (focus_keeper* keeper = focus_keeper_of(widget))
+		keeper->leave(widget);
+}
+
+}
+
+
 peer_ref
-peers::make_view(const peer_ref& parent, BRect frame, bool shown, int32 looper,
-	const std::shared_ptr<front_image>& front)
+peers::make_view(const peer_ref& parent, BRect frame, bool shown, bool navigable,
+	report_address report, const std::shared_ptr<front_image>& front)
 {
 	auto made = std::make_shared<peer>();
 	display::post([=] {
 		if (!parent->widget)
 			return;
-		auto* widget = new view_widget(parent->widget, looper, front);
+		auto* widget = new view_widget(parent->widget, report, front);
+		widget->setFocusPolicy(navigable ? Qt::TabFocus : Qt::NoFocus);
 		adopt(made, widget, frame, shown);
 	});
 	return made;
@@ -52,8 +65,21 @@ peers::set_shown(const peer_ref& view, bool shown)
 		if (!view->widget)
 			return;
 		if (!shown)
-			leave_quietly(*view->widget);
+			leave(*view->widget);
 		view->widget->setVisible(shown);
+	});
+}
+
+
+void
+peers::set_navigable(const peer_ref& view, bool navigable)
+{
+	display::post([=] {
+		if (!view->widget)
+			return;
+		QWidget* stop = view->widget->focusProxy() ? view->widget->focusProxy() : view->widget;
+		int others = stop->focusPolicy() & ~Qt::TabFocus;
+		stop->setFocusPolicy(Qt::FocusPolicy(others | (navigable ? Qt::TabFocus : Qt::NoFocus)));
 	});
 }
 
@@ -97,7 +123,7 @@ peers::destroy(const peer_ref& view)
 	display::post([=] {
 		if (!view->widget)
 			return;
-		leave_quietly(*view->widget);
+		leave(*view->widget);
 		view->widget->setVisible(false);
 		view->widget->deleteLater();
 	});

@@ -22,15 +22,23 @@ struct peer {
 
 using peer_ref = std::shared_ptr<peer>;
 
+// Where a peer reports to: a handler of a window's looper.
+struct report_address {
+	int32 looper;
+	int32 handler;
+};
+
 // All of these post a command and return; any thread. Frames include their right and bottom edge and
 // are in the parent's coordinates.
 namespace peers {
 
-// A plain view that shows the front image. Pointer events go to the looper with that token.
-peer_ref make_view(const peer_ref& parent, BRect frame, bool shown, int32 looper,
-	const std::shared_ptr<front_image>& front);
+// A plain view that shows the front image. Pointer events go to the looper.
+peer_ref make_view(const peer_ref& parent, BRect frame, bool shown, bool navigable,
+	report_address report, const std::shared_ptr<front_image>& front);
 void set_frame(const peer_ref& view, BRect frame);
 void set_shown(const peer_ref& view, bool shown);
+// Whether Tab walks to it.
+void set_navigable(const peer_ref& view, bool navigable);
 // Below the other in the stacking order of siblings.
 void stack_under(const peer_ref& view, const peer_ref& other);
 // Shows what was published: one update at a time is on its way.

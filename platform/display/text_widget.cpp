@@ -4,8 +4,6 @@
 
 #include "display/convert.h"
 #include "display/field_peers.h"
-#include "display/focus.h"
-#include "display/input.h"
 #include "display/look.h"
 #include "display/modifiers.h"
 
@@ -25,16 +23,16 @@ constexpr int longest_text = 1 << 20;
 }
 
 
-line_widget::line_widget(QWidget* parent, report_address report)
-	: QLineEdit(parent),
-	  fReport(report)
+line_widget::line_widget(QWidget* parent, report_address report) : keyboard_holder(report, parent)
 {
 	// Dropped files are for the view behind, not text.
 	setAcceptDrops(false);
-	setAttribute(Qt::WA_NoMousePropagation);
 	setTextMargins(1, 0, 1, 0);
 	setMaxLength(longest_text);
-	connect(this, &QLineEdit::textEdited, [this] { _Report(field_edited); });
+	connect(this, &QLineEdit::textEdited, [this] {
+		fEdits++;
+		_Report(field_edited);
+	});
 	connect(this, &QLineEdit::returnPressed, [this] {
 		_Report(field_entered);
 		selectAll();
@@ -43,9 +41,11 @@ line_widget::line_widget(QWidget* parent, report_address report)
 
 
 void
-line_widget::set_text(const QString& text, int32 serial)
+line_widget::set_text(const QString& text, int32 seen)
 {
-	fSerial = serial;
+	// The user has typed since, and the program will hear of it.
+	if (seen < fEdits)
+		return;
 	setText(text);
 	// The beginning of a long text tells more than its end.
 	if (hasFocus())
@@ -60,28 +60,16 @@ line_widget::_Report(uint32 what)
 {
 	BMessage message(what);
 	message.AddString("text", to_bytes(text()).c_str());
-	message.AddInt32("serial", fSerial);
-	post_to(fReport.looper, fReport.handler, message);
+	message.AddInt32("edits", fEdits);
+	report(message);
 }
 
 
 void
 line_widget::focusInEvent(QFocusEvent* event)
 {
-	QLineEdit::focusInEvent(event);
-	if (!focus_moves(*event))
-		return;
 	fSelectOnRelease = event->reason() == Qt::MouseFocusReason;
-	selectAll();
-	report_focus(*this, *event, fReport);
-}
-
-
-void
-line_widget::focusOutEvent(QFocusEvent* event)
-{
-	QLineEdit::focusOutEvent(event);
-	report_focus(*this, *event, fReport);
+	keyboard_holder::focusInEvent(event);
 }
 
 
@@ -123,13 +111,6 @@ line_widget::keyPressEvent(QKeyEvent* event)
 }
 
 
-bool
-line_widget::focusNextPrevChild(bool next)
-{
-	return walk_focus(fReport.looper, next);
-}
-
-
 text_widget::text_widget(QWidget* parent, report_address report)
 	: QWidget(parent),
 	  fLabel(new QLabel(this)),
@@ -155,9 +136,9 @@ text_widget::set(const control_look& look, float divider)
 
 
 void
-text_widget::set_text(const std::string& text, int32 serial)
+text_widget::set_text(const std::string& text, int32 seen)
 {
-	fLine->set_text(to_qstring(text), serial);
+	fLine->set_text(to_qstring(text), seen);
 	_Fit();
 }
 

@@ -4,7 +4,7 @@
 #define KITS_TEXT_WIDGET_H
 
 #include "display/control_look.h"
-#include "display/control_peers.h"
+#include "display/keyboard_holder.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -12,24 +12,23 @@
 namespace kits {
 
 // The line that is edited.
-class line_widget : public QLineEdit {
+class line_widget : public keyboard_holder<QLineEdit> {
 public:
 	line_widget(QWidget* parent, report_address report);
 
-	void set_text(const QString& text, int32 serial);
+	void set_text(const QString& text, int32 seen);
+	void entered() override { selectAll(); }
 
 protected:
 	void focusInEvent(QFocusEvent* event) override;
-	void focusOutEvent(QFocusEvent* event) override;
 	void mouseReleaseEvent(QMouseEvent* event) override;
 	void keyPressEvent(QKeyEvent* event) override;
-	bool focusNextPrevChild(bool next) override;
 
 private:
 	void _Report(uint32 what);
 
-	const report_address fReport;
-	int32 fSerial = 0;
+	// How often the user has changed the text.
+	int32 fEdits = 0;
 	// The click that brought the keyboard selects all, unless it drags a selection of its own.
 	bool fSelectOnRelease = false;
 };
@@ -40,7 +39,7 @@ public:
 	text_widget(QWidget* parent, report_address report);
 
 	void set(const control_look& look, float divider);
-	void set_text(const std::string& text, int32 serial);
+	void set_text(const std::string& text, int32 seen);
 
 protected:
 	void resizeEvent(QResizeEvent* event) override;

@@ -11,15 +11,14 @@
 using namespace kits;
 
 
-view_widget::view_widget(QWidget* parent, int32 looper, std::shared_ptr<front_image> front)
+view_widget::view_widget(QWidget* parent, report_address report, std::shared_ptr<front_image> front)
 	: QWidget(parent),
-	  fLooper(looper),
+	  fReport(report),
 	  fFront(std::move(front))
 {
 	setMouseTracking(true);
 	setTabletTracking(true);
 	setAttribute(Qt::WA_OpaquePaintEvent);
-	setFocusPolicy(Qt::NoFocus);
 }
 
 
@@ -44,5 +43,5 @@ view_widget::paintEvent(QPaintEvent* event)
 bool
 view_widget::event(QEvent* event)
 {
-	return take_pointer(fLooper, *this, *event) || QWidget::event(event);
+	return take_pointer(fReport.looper, *this, *event) || QWidget::event(event);
 }

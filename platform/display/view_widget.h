@@ -3,6 +3,7 @@
 #ifndef KITS_VIEW_WIDGET_H
 #define KITS_VIEW_WIDGET_H
 
+#include "display/focus.h"
 #include "display/peer.h"
 
 #include <QWidget>
@@ -11,16 +12,18 @@ namespace kits {
 
 // The widget of a view: shows its front image and hands pointer events to the window's looper, in
 // window coordinates. Which view an event is for, the looper decides.
-class view_widget : public QWidget {
+class view_widget : public QWidget, public focus_holder {
 public:
-	view_widget(QWidget* parent, int32 looper, std::shared_ptr<front_image> front);
+	view_widget(QWidget* parent, report_address report, std::shared_ptr<front_image> front);
+
+	int32 view() const override { return fReport.handler; }
 
 protected:
 	void paintEvent(QPaintEvent* event) override;
 	bool event(QEvent* event) override;
 
 private:
-	const int32 fLooper;
+	const report_address fReport;
 	const std::shared_ptr<front_image> fFront;
 };
 

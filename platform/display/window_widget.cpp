@@ -4,6 +4,8 @@
 
 #include "app/activity.h"
 #include "display/input.h"
+#include "display/key_filter.h"
+#include "display/menu_widgets.h"
 #include "display/window_peer.h"
 
 #include <AppDefs.h>
@@ -23,9 +25,7 @@ window_widget::window_widget(int32 looper, std::shared_ptr<pointer_record> point
 	: fLooper(looper),
 	  fPointer(std::move(pointer)),
 	  fRatio(devicePixelRatio()),
-	  fKeys([looper](bool down, const QKeyEvent& event, int32 repeat) {
-		  post_key(looper, down, event, repeat);
-	  })
+	  fFocus(*this, looper)
 {
 	// The only widget that takes drops, so that they all come here with their place.
 	setAcceptDrops(true);
@@ -147,14 +147,18 @@ window_widget::_ReportRatio()
 void
 window_widget::keyPressEvent(QKeyEvent* event)
 {
-	fKeys.press(*event);
+	bool for_menu = event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier;
+	if (for_menu && open_menu_bar(*this))
+		return;
+	int32 repeat = event->isAutoRepeat() ? keyboard().repeats_of(*event) : 0;
+	post_key(fLooper, true, *event, repeat);
 }
 
 
 void
 window_widget::keyReleaseEvent(QKeyEvent* event)
 {
-	fKeys.release(*event);
+	post_key(fLooper, false, *event, 0);
 }
 
 

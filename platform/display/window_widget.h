@@ -3,7 +3,7 @@
 #ifndef KITS_WINDOW_WIDGET_H
 #define KITS_WINDOW_WIDGET_H
 
-#include "display/key_filter.h"
+#include "display/focus.h"
 #include "display/pointer_record.h"
 
 #include <memory>
@@ -20,6 +20,7 @@ public:
 	void set_size(int32 width, int32 height, int32 serial);
 	void set_position(int32 left, int32 top, int32 serial);
 	pointer_record& pointer() const { return *fPointer; }
+	focus_keeper& focus() { return fFocus; }
 
 protected:
 	void resizeEvent(QResizeEvent* event) override;
@@ -44,7 +45,7 @@ private:
 	int32 fMoveSerial = 0;
 	bool fUnzooming = false;
 	qreal fRatio;
-	key_filter fKeys;
+	focus_keeper fFocus;
 };
 
 }

@@ -19,7 +19,8 @@ public:
 		BMessage* message, uint32 resizingMode = B_FOLLOW_LEFT | B_FOLLOW_TOP,
 		uint32 flags = B_WILL_DRAW | B_NAVIGABLE);
 
-	// Sends nothing, and later changes are measured against this text. Null is the empty text.
+	// Sends nothing, and later changes are measured against this text. Null is the empty text. What
+	// the user types that the program has not heard of yet stands, and counts as such a change.
 	virtual void SetText(const char* text);
 	// Also what is being typed. Valid until it changes.
 	const char* Text() const;
@@ -41,8 +42,8 @@ private:
 	// What later changes are measured against.
 	std::string fSent;
 	float fDivider;
-	// Counts the program's own texts: what the user typed before the last is out of date.
-	int32 fSerial;
+	// How many of the user's edits the field has heard of.
+	int32 fEdits;
 };
 
 #endif

@@ -278,6 +278,7 @@ private:
 	void _EndWatch();
 	void _ForgetImages();
 	void _VisibilityChanged();
+	bool _IsWithin(const BView& view) const;
 	bool _Context(kits::drawing_context& context) const;
 	bool _OffscreenContext(kits::drawing_context& context) const;
 	void _Touched() const;

@@ -121,7 +121,7 @@ private:
 	void _SetSize(float width, float height);
 	void _SetFocus(BView* view);
 	void _FollowFocus(BView* view);
-	void _FocusReported(const BMessage& report, BView* view);
+	void _FocusReported(const BMessage& report);
 	void _TellFocus();
 	void _StartIfShown();
 	bool _HasQuit() const;

@@ -66,6 +66,8 @@ BControl::SetEnabled(bool enabled)
 	if (enabled == fEnabled)
 		return;
 	fEnabled = enabled;
+	if (!enabled && IsFocus())
+		MakeFocus(false);
 	_TellPeer();
 }
 
@@ -111,8 +113,7 @@ BControl::AttachedToWindow()
 void
 BControl::MessageReceived(BMessage* message)
 {
-	if (!window_access::follow_focus(*this, *message))
-		BView::MessageReceived(message);
+	BView::MessageReceived(message);
 }
 
 

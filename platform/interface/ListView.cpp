@@ -240,8 +240,6 @@ BListView::AttachedToWindow()
 void
 BListView::MessageReceived(BMessage* message)
 {
-	if (window_access::follow_focus(*this, *message))
-		return;
 	switch (message->what) {
 		case list_selected:
 			_SelectionReported(*message);

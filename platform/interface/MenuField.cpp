@@ -98,8 +98,7 @@ BMenuField::AttachedToWindow()
 void
 BMenuField::MessageReceived(BMessage* message)
 {
-	if (!window_access::follow_focus(*this, *message))
-		BView::MessageReceived(message);
+	BView::MessageReceived(message);
 }
 
 

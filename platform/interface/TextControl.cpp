@@ -29,7 +29,7 @@ BTextControl::BTextControl(BRect frame, const char* name, const char* label,
 	  fText(initialText ? initialText : ""),
 	  fSent(fText),
 	  fDivider(0),
-	  fSerial(0)
+	  fEdits(0)
 {
 	ResizeTo(Frame().Width(), line_height() - 1);
 	if (label && label[0])
@@ -90,9 +90,7 @@ BTextControl::MessageReceived(BMessage* message)
 	switch (message->what) {
 		case field_edited:
 		case field_entered:
-			// Typed before the program's own last text: gone.
-			if (message->FindInt32("serial") != fSerial)
-				break;
+			fEdits = message->FindInt32("edits");
 			fText = message->FindString("text");
 			if (message->what == field_entered)
 				_Confirm();
@@ -116,6 +114,7 @@ BTextControl::_Confirm()
 void
 BTextControl::_MakePeer()
 {
+	fEdits = 0;
 	_SetWidget(field_peers::make_text(_ParentWidget(), _PeerFrame(), !IsHidden(this), _Look(),
 		fDivider, {_WindowToken(), _Token()}));
 }
@@ -132,7 +131,6 @@ BTextControl::_TellPeer()
 void
 BTextControl::_TellText()
 {
-	fSerial++;
 	if (_Widget())
-		field_peers::set_text(_Widget(), fText, fSerial);
+		field_peers::set_text(_Widget(), fText, fEdits);
 }

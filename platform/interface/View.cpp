@@ -106,8 +106,8 @@ BView::_CallAttached()
 void
 BView::_MakePeer()
 {
-	fState->widget = peers::make_view(
-		_ParentWidget(), _PeerFrame(), fState->hidden <= 0, _WindowToken(), fState->front);
+	fState->widget = peers::make_view(_ParentWidget(), _PeerFrame(), fState->hidden <= 0,
+		fState->flags & B_NAVIGABLE, {_WindowToken(), _Token()}, fState->front);
 }
 
 
@@ -271,6 +271,8 @@ void
 BView::SetFlags(uint32 flags)
 {
 	fState->flags = flags;
+	if (fState->widget)
+		peers::set_navigable(fState->widget, flags & B_NAVIGABLE);
 }
 
 

@@ -307,6 +307,17 @@ BView::IsHidden(const BView* lookingFrom) const
 }
 
 
+// True of the view itself too.
+bool
+BView::_IsWithin(const BView& view) const
+{
+	const BView* around = this;
+	while (around && around != &view)
+		around = around->fState->parent;
+	return around;
+}
+
+
 // What comes into sight has to be drawn anew, since nothing that is out of sight keeps its pixels.
 void
 BView::_VisibilityChanged()
@@ -317,7 +328,7 @@ BView::_VisibilityChanged()
 		peers::set_shown(fState->widget, fState->hidden <= 0);
 	// A hidden view may have the keyboard; the display takes it up again when it shows.
 	BView* focus = fState->window->CurrentFocus();
-	if (focus && !focus->IsHidden())
+	if (focus && focus->_IsWithin(*this) && !focus->IsHidden())
 		fState->window->_TellFocus();
 	_ForgetImages();
 }

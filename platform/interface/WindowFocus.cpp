@@ -1,6 +1,7 @@
 // Copyright 2026 the kernix authors
 // SPDX-License-Identifier: MIT
 // Which view of a window has the keyboard.
+#include "app/registry.h"
 #include "display/field_peers.h"
 #include "interface/view_state.h"
 #include "interface/window_state.h"
@@ -23,7 +24,6 @@ BWindow::CurrentFocus() const
 void
 BWindow::_SetFocus(BView* view)
 {
-	fWindow->focus_serial++;
 	_FollowFocus(view);
 	if (fWindow->focus == view)
 		_TellFocus();
@@ -36,11 +36,12 @@ BWindow::_TellFocus()
 	BView* view = fWindow->focus;
 	if (fWindow->widget)
 		field_peers::focus(
-			fWindow->widget, view ? view->fState->widget : nullptr, fWindow->focus_serial);
+			fWindow->widget, view ? view->fState->widget : nullptr, fWindow->focus_moves);
 }
 
 
-// The display has moved it, or is about to. Whoever loses it may have something to send first.
+// The display has moved it, or is about to. Whoever loses it may have something to send first, or
+// gives it to a third, who then has it.
 void
 BWindow::_FollowFocus(BView* view)
 {
@@ -50,23 +51,29 @@ BWindow::_FollowFocus(BView* view)
 		fWindow->focus = nullptr;
 		SetPreferredHandler(nullptr);
 		before->MakeFocus(false);
+		if (fWindow->focus)
+			return;
 	}
 	fWindow->focus = view;
 	SetPreferredHandler(view);
 }
 
 
-// The keyboard on the display has moved on its own; the kit follows, unless the program has moved
-// it since.
+// The user has moved it on the display.
 void
-BWindow::_FocusReported(const BMessage& report, BView* view)
+BWindow::_FocusReported(const BMessage& report)
 {
-	if (report.FindInt32("serial") != fWindow->focus_serial)
+	fWindow->focus_moves = report.FindInt32("moves");
+	auto* view = dynamic_cast<BView*>(registry::find(report.FindInt32("view"), fToken));
+	// Gone or switched off meanwhile: the keyboard goes back to where it was.
+	if (!view || !view->_TakesKeyboard()) {
+		_TellFocus();
 		return;
-	if (report.what == focus_gained)
-		_FollowFocus(view);
-	else if (fWindow->focus == view)
+	}
+	// The walk may lead round to where it began: left and entered again, a field alone confirms too.
+	if (fWindow->focus == view)
 		_FollowFocus(nullptr);
+	_FollowFocus(view);
 }
 
 

@@ -3,7 +3,7 @@
 // What reaches a window from the display, and which view it is for.
 #include "app/message_access.h"
 #include "app/registry.h"
-#include "display/field_peers.h"
+#include "display/focus.h"
 #include "display/input.h"
 #include "interface/view_state.h"
 #include "interface/window_state.h"
@@ -71,8 +71,8 @@ BWindow::DispatchMessage(BMessage* message, BHandler* handler)
 			fWindow->ratio = message->FindFloat("ratio");
 			fWindow->root->_ForgetImages();
 			break;
-		case focus_walks:
-			_Navigate(message->FindBool("forward"));
+		case focus_taken:
+			_FocusReported(*message);
 			break;
 		case _UPDATE_:
 			break;

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "interface/peer_access.h"
 
-#include "display/field_peers.h"
 #include "interface/view_state.h"
 
-#include <Message.h>
 #include <Window.h>
 
 using namespace kits;
@@ -46,15 +44,4 @@ view_access::take_parent_colors(BView& view)
 		view.SetViewColor(parent->ViewColor());
 		view.SetLowColor(parent->LowColor());
 	}
-}
-
-
-bool
-window_access::follow_focus(BView& view, const BMessage& message)
-{
-	if (message.what != focus_gained && message.what != focus_lost)
-		return false;
-	if (view.Window())
-		view.Window()->_FocusReported(message, &view);
-	return true;
 }

@@ -6,7 +6,6 @@
 #include "display/control_look.h"
 #include "display/control_peers.h"
 
-class BMessage;
 class BView;
 
 // What views that the display paints need of the kit's own parts.
@@ -17,11 +16,6 @@ struct view_access {
 	static kits::control_look look_of(const BView& view, const std::string& label);
 	// Nothing without a parent.
 	static void take_parent_colors(BView& view);
-};
-
-struct window_access {
-	// Deals with a report of the display's about the keyboard; false when the message is none.
-	static bool follow_focus(BView& view, const BMessage& message);
 };
 
 #endif

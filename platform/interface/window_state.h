@@ -44,8 +44,8 @@ struct window_state {
 	bigtime_t pulse_rate = 500000;
 
 	BView* focus = nullptr;
-	// Counts the program's own changes of it: what the display reports from before the last is old.
-	int32 focus_serial = 0;
+	// How many of the user's moves of it the window has heard of.
+	int32 focus_moves = 0;
 	// Token of the view that the pointer was over last.
 	int32 under_pointer = 0;
 	// Tokens of the views that have an event mask.
