@@ -6,6 +6,7 @@
 #include "display/command_queue.h"
 #include "display/key_filter.h"
 #include "display/look.h"
+#include "display/type_ahead.h"
 #include "display/x_keyboard.h"
 
 #include <atomic>
@@ -94,7 +95,9 @@ make_application()
 void
 watch_keys(QApplication& application)
 {
+	// The one installed last has the first look.
 	application.installEventFilter(&keyboard());
+	application.installEventFilter(new input_gate);
 	QObject::connect(
 		&application, &QGuiApplication::focusWindowChanged, &keyboard(), &key_filter::moved_to);
 	x_keyboard::watch_grabs([] { keyboard().look_again(); });

@@ -109,3 +109,13 @@ field_peers::focus(const peer_ref& window, const peer_ref& view, int32 seen)
 				.give(view ? view->widget : nullptr, seen);
 	});
 }
+
+
+void
+field_peers::press_answered(const peer_ref& window)
+{
+	display::post([=] {
+		if (window->widget)
+			static_cast<window_widget*>(window->widget)->ahead().answered();
+	});
+}

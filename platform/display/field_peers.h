@@ -33,6 +33,8 @@ void set_text(const peer_ref& field, const std::string& text, int32 seen);
 
 // Gives the peer of a view the keyboard; see focus_keeper::give().
 void focus(const peer_ref& window, const peer_ref& view, int32 seen);
+// The looper has dealt with a press: where the keyboard is now is known.
+void press_answered(const peer_ref& window);
 
 }
 }

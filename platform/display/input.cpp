@@ -81,12 +81,16 @@ pointer_message(uint32 what, const QWidget& widget, const QSinglePointEvent& eve
 }
 
 
-// What BView::GetMouse() answers with.
 void
 remember(const QWidget& widget, const BMessage& message)
 {
-	if (const auto* window = dynamic_cast<const window_widget*>(widget.window()))
-		window->pointer().set(message.FindPoint("where"), (uint32)message.FindInt32("buttons"));
+	auto* window = dynamic_cast<window_widget*>(widget.window());
+	if (!window)
+		return;
+	// What BView::GetMouse() answers with.
+	window->pointer().set(message.FindPoint("where"), (uint32)message.FindInt32("buttons"));
+	if (message.what == B_MOUSE_DOWN)
+		window->ahead().pressed();
 }
 
 

@@ -112,7 +112,7 @@ list_widget::list_widget(QWidget* parent, bool multiple, report_address address)
 	setUniformItemSizes(true);
 	setItemDelegate(new row_delegate(this));
 	connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
-		&list_widget::_ReportSelection);
+		&list_widget::_SelectionChanged);
 	connect(this, &QListWidget::doubleClicked, this, &list_widget::_ReportInvocation);
 }
 
@@ -129,11 +129,20 @@ list_widget::set(const control_look& look, const QColor& text)
 }
 
 
+// The program changes the rows. What the user selected before is told first, with the old serial.
+void
+list_widget::_BeginChange(int32 serial)
+{
+	_ReportHeld();
+	fSerial = serial;
+	fQuiet = true;
+}
+
+
 void
 list_widget::insert(int row, const QString& text, int32 serial)
 {
-	fSerial = serial;
-	fQuiet = true;
+	_BeginChange(serial);
 	insertItem(row, new row_item(text));
 	fQuiet = false;
 }
@@ -142,8 +151,7 @@ list_widget::insert(int row, const QString& text, int32 serial)
 void
 list_widget::remove(int row, int32 serial)
 {
-	fSerial = serial;
-	fQuiet = true;
+	_BeginChange(serial);
 	// Else the toolkit would select the row beside.
 	selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
 	delete takeItem(row);
@@ -154,8 +162,7 @@ list_widget::remove(int row, int32 serial)
 void
 list_widget::empty(int32 serial)
 {
-	fSerial = serial;
-	fQuiet = true;
+	_BeginChange(serial);
 	clear();
 	fQuiet = false;
 }
@@ -164,8 +171,7 @@ list_widget::empty(int32 serial)
 void
 list_widget::select(const std::vector<int32>& rows, int32 serial)
 {
-	fSerial = serial;
-	fQuiet = true;
+	_BeginChange(serial);
 	QItemSelection selection;
 	for (int32 row : rows) {
 		QModelIndex index = model()->index(row, 0);
@@ -219,17 +225,29 @@ list_widget::keyPressEvent(QKeyEvent* event)
 		case Qt::Key_End:
 		case Qt::Key_PageUp:
 		case Qt::Key_PageDown:
+			fMovingByKey = true;
 			QListWidget::keyPressEvent(event);
+			fMovingByKey = false;
 			event->accept();
 			break;
 		case Qt::Key_Return:
 		case Qt::Key_Enter:
-			if (!event->isAutoRepeat())
+			if (!event->isAutoRepeat()) {
+				_ReportHeld();
 				_ReportInvocation();
+			}
 			break;
 		default:
 			event->ignore();
 	}
+}
+
+
+void
+list_widget::keyReleaseEvent(QKeyEvent* event)
+{
+	QListWidget::keyReleaseEvent(event);
+	_ReportHeld();
 }
 
 
@@ -245,11 +263,30 @@ list_widget::paintEvent(QPaintEvent* event)
 }
 
 
+// A held key moves on and is reported once, when it is let go.
 void
-list_widget::_ReportSelection()
+list_widget::_SelectionChanged()
 {
 	if (fQuiet)
 		return;
+	fHeldBack = fMovingByKey;
+	if (!fHeldBack)
+		_ReportSelection();
+}
+
+
+void
+list_widget::_ReportHeld()
+{
+	if (fHeldBack)
+		_ReportSelection();
+	fHeldBack = false;
+}
+
+
+void
+list_widget::_ReportSelection()
+{
 	std::vector<int> rows;
 	for (const QModelIndex& index : selectedIndexes())
 		rows.push_back(index.row());

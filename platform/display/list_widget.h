@@ -26,16 +26,24 @@ protected:
 		const QModelIndex& index, const QEvent* event) const override;
 	void focusInEvent(QFocusEvent* event) override;
 	void keyPressEvent(QKeyEvent* event) override;
+	void keyReleaseEvent(QKeyEvent* event) override;
 	void paintEvent(QPaintEvent* event) override;
 
 private:
+	void _BeginChange(int32 serial);
+	void _SelectionChanged();
 	void _ReportSelection();
+	// What a held key has selected so far.
+	void _ReportHeld();
 	void _ReportInvocation();
 	void _StartFromSelection();
 
 	int32 fSerial = 0;
 	// The program changes the selection, not the user.
 	bool fQuiet = false;
+	// A key that moves the selection goes down, and one that has moved it is held.
+	bool fMovingByKey = false;
+	bool fHeldBack = false;
 };
 
 // What a row shows of a text: one line of it.

@@ -25,7 +25,8 @@ window_widget::window_widget(int32 looper, std::shared_ptr<pointer_record> point
 	: fLooper(looper),
 	  fPointer(std::move(pointer)),
 	  fRatio(devicePixelRatio()),
-	  fFocus(*this, looper)
+	  fFocus(*this, looper),
+	  fAhead(*this)
 {
 	// The only widget that takes drops, so that they all come here with their place.
 	setAcceptDrops(true);

@@ -5,6 +5,7 @@
 
 #include "display/focus.h"
 #include "display/pointer_record.h"
+#include "display/type_ahead.h"
 
 #include <memory>
 #include <QWidget>
@@ -21,6 +22,7 @@ public:
 	void set_position(int32 left, int32 top, int32 serial);
 	pointer_record& pointer() const { return *fPointer; }
 	focus_keeper& focus() { return fFocus; }
+	type_ahead& ahead() { return fAhead; }
 
 protected:
 	void resizeEvent(QResizeEvent* event) override;
@@ -46,6 +48,7 @@ private:
 	bool fUnzooming = false;
 	qreal fRatio;
 	focus_keeper fFocus;
+	type_ahead fAhead;
 };
 
 }

@@ -3,6 +3,7 @@
 // What reaches a window from the display, and which view it is for.
 #include "app/message_access.h"
 #include "app/registry.h"
+#include "display/field_peers.h"
 #include "display/focus.h"
 #include "display/input.h"
 #include "interface/view_state.h"
@@ -123,6 +124,8 @@ BWindow::_DeliverPointer(BMessage* message)
 	}
 	if (message->what != B_MOUSE_WHEEL_CHANGED)
 		_TellWatchers(*message, B_POINTER_EVENTS, {meant});
+	if (message->what == B_MOUSE_DOWN)
+		field_peers::press_answered(fWindow->widget);
 	if (message->what == B_MOUSE_UP && message->FindInt32("buttons") == 0)
 		_EndPress();
 }
