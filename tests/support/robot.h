@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <Message.h>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -74,7 +75,8 @@ public:
 	std::vector<int> scroll_bar(orientation posture);
 	void drag_scroll_bar(orientation posture, int value);
 
-	// Keys go to whatever has the keyboard on the display. A key is a Qt::Key.
+	// Keys go to whatever has the keyboard on the display. A key is a Qt::Key. One that goes down
+	// again before it has gone up repeats.
 	void key_down(int key, const std::string& text = "", int32 modifiers = 0);
 	void key_up(int key, const std::string& text = "", int32 modifiers = 0);
 	void key(int key, const std::string& text = "", int32 modifiers = 0);
@@ -130,6 +132,7 @@ private:
 
 	std::string fTitle;
 	int32 fHeld = 0;
+	std::set<int> fKeysDown;
 };
 
 inline bool

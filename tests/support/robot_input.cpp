@@ -213,13 +213,16 @@ void
 robot::_Key(bool down, int key, const std::string& text, int32 modifiers)
 {
 	settle();
+	bool repeat = down && !fKeysDown.insert(key).second;
+	if (!down)
+		fKeysDown.erase(key);
 	_Act([&] {
 		QWidget* window = _Window();
 		if (!window)
 			return;
 		activate(window);
 		QKeyEvent event(down ? QEvent::KeyPress : QEvent::KeyRelease, key,
-			to_qt_modifiers(modifiers), QString::fromStdString(text));
+			to_qt_modifiers(modifiers), QString::fromStdString(text), repeat);
 		QCoreApplication::sendEvent(window->windowHandle(), &event);
 	});
 	settle();

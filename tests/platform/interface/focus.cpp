@@ -95,7 +95,7 @@ TEST(focus, given_twice_in_a_row_stays_with_the_last)
 }
 
 
-TEST(focus, that_the_program_gives_later_than_the_user_is_where_the_program_gave_it)
+TEST(focus, that_the_user_takes_is_the_users_when_the_program_moves_it_without_knowing)
 {
 	with_form([](form& page, robot& user) {
 		BTextControl& field = page.field(upper, "field");
@@ -104,13 +104,13 @@ TEST(focus, that_the_program_gives_later_than_the_user_is_where_the_program_gave
 			page.MakeFocus();
 		});
 		user.settle();
-		EXPECT_EQ(page.focus(), "form");
-		EXPECT_FALSE(user.has_keyboard(middle(field)));
+		EXPECT_EQ(page.focus(), "field");
+		EXPECT_TRUE(user.has_keyboard(middle(field)));
 	});
 }
 
 
-TEST(focus, that_the_program_gives_another_field_later_than_the_user_confirms_nothing)
+TEST(focus, that_the_program_gives_another_field_without_knowing_of_the_user_confirms_nothing)
 {
 	with_form([](form& page, robot& user) {
 		BTextControl& field = page.field(upper, "field");
@@ -120,10 +120,91 @@ TEST(focus, that_the_program_gives_another_field_later_than_the_user_confirms_no
 			other.MakeFocus();
 		});
 		user.settle();
-		EXPECT_EQ(page.focus(), "other");
-		EXPECT_FALSE(user.has_keyboard(middle(field)));
-		EXPECT_TRUE(user.has_keyboard(middle(other)));
+		EXPECT_EQ(page.focus(), "field");
+		EXPECT_TRUE(user.has_keyboard(middle(field)));
+		EXPECT_FALSE(user.has_keyboard(middle(other)));
 		EXPECT_EQ(page.senders(), journal());
+	});
+}
+
+
+TEST(focus, that_the_program_moves_after_it_has_heard_of_the_user_is_where_the_program_put_it)
+{
+	with_form([](form& page, robot& user) {
+		BTextControl& field = page.field(upper, "field");
+		user.click(middle(field));
+		page.locked([&] { page.MakeFocus(); });
+		user.settle();
+		EXPECT_EQ(page.focus(), "form");
+		EXPECT_FALSE(user.has_keyboard(middle(field)));
+	});
+}
+
+
+TEST(focus, of_a_clicked_field_stays_there_when_another_view_is_hidden_or_shown)
+{
+	with_form([](form& page, robot& user) {
+		BTextControl& field = page.field(upper, "field");
+		auto& other = page.put(new test_view(BRect(120, 0, 199, 99), "other"));
+		page.locked([&] {
+			page.MakeFocus();
+			// The display's next command is carried out before the next event.
+			user.act([](QWidget&) {});
+			click_now(user, BPoint(30, 20));
+			other.Hide();
+		});
+		user.settle();
+		EXPECT_EQ(page.focus(), "field");
+		EXPECT_TRUE(user.has_keyboard(middle(field)));
+		page.locked([&] { other.Show(); });
+		user.settle();
+		EXPECT_TRUE(user.has_keyboard(middle(field)));
+	});
+}
+
+
+TEST(focus, goes_to_a_third_when_the_view_that_loses_it_gives_it_there)
+{
+	class generous : public test_view {
+	public:
+		using test_view::test_view;
+		BView* heir = nullptr;
+		void MakeFocus(bool focus = true) override
+		{
+			test_view::MakeFocus(focus);
+			if (!focus && heir)
+				heir->MakeFocus();
+		}
+	};
+	with_form([](form& page, robot& user) {
+		BTextControl& field = page.field(upper, "field");
+		BTextControl& other = page.field(lower, "other");
+		auto& view = page.put(new generous(BRect(120, 0, 199, 99), "view"));
+		page.locked([&] {
+			view.heir = &other;
+			view.MakeFocus();
+		});
+		user.click(middle(field));
+		EXPECT_EQ(page.focus(), "other");
+		EXPECT_TRUE(user.has_keyboard(middle(other)));
+		page.locked([&] { view.heir = nullptr; });
+	});
+}
+
+
+TEST(focus, taken_by_the_user_from_a_view_that_is_switched_off_meanwhile_stays_where_it_was)
+{
+	with_form([](form& page, robot& user) {
+		BTextControl& field = page.field(upper, "field");
+		BTextControl& other = page.field(lower, "other");
+		user.click(middle(other));
+		page.locked([&] {
+			click_now(user, BPoint(30, 20));
+			field.SetEnabled(false);
+		});
+		user.settle();
+		EXPECT_EQ(page.focus(), "other");
+		EXPECT_TRUE(user.has_keyboard(middle(other)));
 	});
 }
 

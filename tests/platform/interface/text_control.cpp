@@ -233,25 +233,6 @@ TEST(text_control, rewritten_by_the_program_with_the_keyboard_is_selected)
 }
 
 
-TEST(text_control, drops_what_was_typed_before_the_programs_text)
-{
-	with_form([](form& page, robot& user) {
-		BTextControl& field = page.field(upper, "field");
-		user.click(middle(field));
-		// Typed while the program holds the lock, so that it cannot know yet.
-		page.locked([&] {
-			user.act([](QWidget& window) { type_into(window, "typed"); });
-			field.SetText("set");
-		});
-		user.settle();
-		EXPECT_EQ(page.text_of(field), "set");
-		EXPECT_EQ(user.field_text(middle(field)), "set");
-		press_return(user);
-		EXPECT_EQ(page.senders(), journal());
-	});
-}
-
-
 TEST(text_control, shows_and_takes_letters_of_every_length)
 {
 	with_form([](form& page, robot& user) {
