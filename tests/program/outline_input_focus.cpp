@@ -5,15 +5,37 @@
 #include "app/kernixview.h"
 #include "app/kernixwindow.h"
 #include "program/outline_user.h"
+#include "support/temp_files.h"
 
 #include <AppDefs.h>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWidget>
+#include <QWindow>
 
 static const int16 square = 1;
 static const int16 three_squares = 2;
 
 // The palette's field for a glyph's number, in the window.
 static const BPoint number_field(35, 133);
+static const BPoint character_field(30, 77);
+
+
+// The primary button goes down, moves and goes up, as events of the display.
+static void
+drag(QWidget& window, BPoint from, BPoint to)
+{
+	auto send = [&](QEvent::Type type, BPoint where, Qt::MouseButton button, bool held) {
+		QPointF place(where.x, where.y);
+		QMouseEvent event(type, place, place, window.windowHandle()->mapToGlobal(place), button,
+			held ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+		QCoreApplication::sendEvent(window.windowHandle(), &event);
+	};
+	send(QEvent::MouseButtonPress, from, Qt::LeftButton, true);
+	send(QEvent::MouseMove, to, Qt::NoButton, true);
+	send(QEvent::MouseButtonRelease, to, Qt::LeftButton, false);
+}
 
 
 TEST(outline_input, a_field_keeps_the_arrows_until_the_canvas_is_pressed)
@@ -27,6 +49,71 @@ TEST(outline_input, a_field_keeps_the_arrows_until_the_canvas_is_pressed)
 		EXPECT_EQ(user.selection(), "0 0 0");
 		user.click({120, 120});
 		EXPECT_FALSE(user.hand.has_keyboard(number_field));
+		user.hand.key(Qt::Key_Left);
+		EXPECT_EQ(user.selection(), "-1 0 0");
+	});
+}
+
+
+// "Save as" and its panel, closed or answered: the canvas has the keyboard again.
+TEST(outline_input, the_keyboard_is_back_at_the_canvas_after_a_panel)
+{
+	at_outline(three_squares, [](outline_user& user) {
+		temp_folder folder;
+		const std::string before = user.hand.field_text(number_field);
+		user.click({120, 120});
+		user.hand.choose_menu("File", "Save as");
+		user.hand.cancel_panel();
+		user.hand.key(Qt::Key_Left);
+		EXPECT_EQ(user.selection(), "-1 0 0");
+		save_file(user.hand, folder.path(), "saved.ttf");
+		user.hand.key(Qt::Key_Left);
+		EXPECT_EQ(user.selection(), "0 -1 0");
+		user.click({120, 120});
+		user.band({4, 4}, {30, 30});
+		EXPECT_EQ(user.selection(), "-1 0 0");
+		user.hand.key(Qt::Key_Delete, "\x7f");
+		EXPECT_EQ(user.outline(), "48,8 64,8 64,24 48,24 | 88,8 104,8 104,24 88,24");
+		EXPECT_EQ(user.hand.field_text(number_field), before);
+		for (BPoint field : {number_field, character_field})
+			EXPECT_FALSE(user.hand.has_keyboard(field));
+	});
+}
+
+
+// A character is typed into the palette, the canvas pressed and Delete struck while a save goes on.
+TEST(outline_input, what_is_typed_ahead_goes_where_the_user_pressed)
+{
+	at_outline(three_squares, [](outline_user& user) {
+		user.hand.click(number_field);
+		const BPoint corner = user.place({4, 4});
+		const BPoint inside = user.place({30, 30});
+		looking(user.app, [&] {
+			user.hand.act([&](QWidget& window) {
+				drag(window, corner, inside);
+				for (auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+					QKeyEvent key(type, Qt::Key_Delete, Qt::NoModifier, "\x7f");
+					QCoreApplication::sendEvent(window.windowHandle(), &key);
+				}
+			});
+		});
+		user.hand.settle();
+		EXPECT_EQ(user.outline(), "48,8 64,8 64,24 48,24 | 88,8 104,8 104,24 88,24");
+		EXPECT_EQ(user.hand.field_text(number_field), "0002");
+	});
+}
+
+
+TEST(outline_input, the_menu_opens_by_f10_and_leaves_the_keyboard_at_the_canvas)
+{
+	at_outline(three_squares, [](outline_user& user) {
+		user.click({120, 120});
+		user.hand.key(Qt::Key_F10);
+		user.hand.on_display([] { EXPECT_NE(QApplication::activePopupWidget(), nullptr); });
+		user.hand.key(Qt::Key_Down);
+		user.hand.key(Qt::Key_Return, "\r");
+		EXPECT_TRUE(user.hand.panel_is_open());
+		user.hand.cancel_panel();
 		user.hand.key(Qt::Key_Left);
 		EXPECT_EQ(user.selection(), "-1 0 0");
 	});
