@@ -50,9 +50,8 @@ TEST(key_repeat, is_counted)
 		strike(user,
 			{down(100), up(600, true), down(600, true), up(630, true), down(630, true), up(700)});
 		EXPECT_EQ(told(window), (journal{"down", "1", "2", "up"}));
-		window.locked([&] {
-			EXPECT_EQ(view.keys, (journal{"down 61", "down 61", "down 61", "up 61"}));
-		});
+		const journal keys{"down 61", "down 61", "down 61", "up 61"};
+		window.locked([&] { EXPECT_EQ(view.keys, keys); });
 	});
 }
 
@@ -93,9 +92,8 @@ TEST(key_repeat, is_told_of_each_key_alone)
 		stroke b_down = {true, Qt::Key_B, "b", {}, 600, 56};
 		stroke b_up = {false, Qt::Key_B, "b", {}, 650, 56};
 		strike(user, {down(100), b_down, down(600, true), b_up, up(700)});
-		window.locked([&] {
-			EXPECT_EQ(view.keys, (journal{"down 61", "down 62", "down 61", "up 62", "up 61"}));
-		});
+		const journal keys{"down 61", "down 62", "down 61", "up 62", "up 61"};
+		window.locked([&] { EXPECT_EQ(view.keys, keys); });
 	});
 }
 
@@ -106,10 +104,8 @@ TEST(key_repeat, lets_no_key_overtake_the_release_of_another)
 		stroke b_down = {true, Qt::Key_B, "b", {}, 104, 56};
 		stroke b_up = {false, Qt::Key_B, "b", {}, 108, 56};
 		strike(user, {down(100), up(104), b_down, b_up, down(108), up(112)});
-		window.locked([&] {
-			EXPECT_EQ(
-				view.keys, (journal{"down 61", "up 61", "down 62", "up 62", "down 61", "up 61"}));
-		});
+		const journal keys{"down 61", "up 61", "down 62", "up 62", "down 61", "up 61"};
+		window.locked([&] { EXPECT_EQ(view.keys, keys); });
 	});
 }
 
@@ -135,9 +131,8 @@ TEST(key_repeat, is_none_of_a_key_whose_release_was_missed)
 {
 	with_keyboard([](key_view& view, test_window& window, robot& user) {
 		strike(user, {down(100), down(600), up(700)});
-		window.locked([&] {
-			EXPECT_EQ(view.keys, (journal{"down 61", "up 61", "down 61", "up 61"}));
-		});
+		const journal keys{"down 61", "up 61", "down 61", "up 61"};
+		window.locked([&] { EXPECT_EQ(view.keys, keys); });
 	});
 }
 
