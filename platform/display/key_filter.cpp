@@ -31,15 +31,25 @@ receiver_in(const QWindow& window)
 }
 
 
-const QWidget*
-window_of(const QObject* receiver)
+// Whose keys those are: a list of suggestions takes them for its field.
+QObject*
+owner_in(const QWindow& window)
 {
-	auto* widget = qobject_cast<const QWidget*>(receiver);
+	QObject* receiver = receiver_in(window);
+	auto* widget = qobject_cast<QWidget*>(receiver);
+	return widget && widget->focusProxy() ? widget->focusProxy() : receiver;
+}
+
+
+const QWidget*
+window_of(const QObject* owner)
+{
+	auto* widget = qobject_cast<const QWidget*>(owner);
 	return widget ? widget->window() : nullptr;
 }
 
 
-// The walk goes on while the key is held, though each step has another receiver.
+// The walk goes on while the key is held, though each step has another owner.
 bool
 walks_on(const QKeyEvent& event, const QObject* from, const QObject* to)
 {
@@ -96,7 +106,7 @@ key_filter::eventFilter(QObject* watched, QEvent* event)
 bool
 key_filter::_Press(const QWindow& window, QKeyEvent& event)
 {
-	QObject* receiver = receiver_in(window);
+	QObject* owner = owner_in(window);
 	auto found = fHeld.find(code_of(event));
 	bool again = fIsDown ? found != fHeld.end() : event.isAutoRepeat();
 	if (!again) {
@@ -104,24 +114,24 @@ key_filter::_Press(const QWindow& window, QKeyEvent& event)
 		if (found != fHeld.end())
 			_Forget(code_of(event));
 		held_key& key = fHeld[code_of(event)];
-		key.receiver = receiver;
+		key.owner = owner;
 		key.press.reset(event.clone());
 	} else {
 		// It went down elsewhere.
 		if (found == fHeld.end())
 			return true;
 		held_key& key = found->second;
-		if (key.spent && walks_on(event, key.receiver, receiver)) {
-			key.receiver = receiver;
+		if (key.spent && walks_on(event, key.owner, owner)) {
+			key.owner = owner;
 			key.spent = false;
 		}
-		if (key.spent || key.receiver != receiver)
+		if (key.spent || key.owner != owner)
 			return true;
 		key.repeats++;
 	}
 	if (event.isAutoRepeat() == again)
 		return false;
-	send(receiver, QEvent::KeyPress, event, again);
+	send(receiver_in(window), QEvent::KeyPress, event, again);
 	return true;
 }
 
@@ -137,17 +147,17 @@ key_filter::_Release(const QWindow& window, QKeyEvent& event)
 	fHeld.erase(found);
 	if (key.spent)
 		return true;
-	if (key.receiver == receiver_in(window) && !event.isAutoRepeat())
+	if (key.owner == owner_in(window) && !event.isAutoRepeat())
 		return false;
-	send(key.receiver, QEvent::KeyRelease, event, false);
+	send(key.owner, QEvent::KeyRelease, event, false);
 	return true;
 }
 
 
 void
-key_filter::let_go(const QWidget& receiver)
+key_filter::let_go(const QWidget& owner)
 {
-	_LetGo([&](const held_key& key) { return key.receiver == &receiver; });
+	_LetGo([&](const held_key& key) { return key.owner == &owner; });
 }
 
 
@@ -155,7 +165,7 @@ void
 key_filter::moved_to(const QWindow* window)
 {
 	_LetGo([=](const held_key& key) {
-		const QWidget* around = window_of(key.receiver);
+		const QWidget* around = window_of(key.owner);
 		return !around || !window || around->windowHandle() != window;
 	});
 	look_again();
@@ -188,7 +198,7 @@ key_filter::_LetGo(const std::function<bool(const held_key&)>& condition)
 		told.push_back(key);
 	}
 	for (const held_key& key : told)
-		send(key.receiver, QEvent::KeyRelease, *key.press, false);
+		send(key.owner, QEvent::KeyRelease, *key.press, false);
 }
 
 
@@ -201,5 +211,5 @@ key_filter::_Forget(quint32 code)
 	held_key key = found->second;
 	fHeld.erase(found);
 	if (!key.spent)
-		send(key.receiver, QEvent::KeyRelease, *key.press, false);
+		send(key.owner, QEvent::KeyRelease, *key.press, false);
 }

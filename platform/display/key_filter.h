@@ -16,9 +16,9 @@ class QWindow;
 namespace kits {
 
 // Stands between the display's server and everything that takes keys, and makes of a held key the
-// same everywhere: one press, repeats that are marked as such, one release, all for whoever had the
-// keyboard at the press. Who loses the keyboard hears of the release then; what the key still does
-// after that is nobody's. Display thread.
+// same everywhere: one press, repeats that are marked as such, one release, all for its owner, who
+// had the keyboard at the press. An owner who loses the keyboard hears of the release then; what the
+// key still does after that is nobody's. Display thread.
 class key_filter : public QObject {
 public:
 	// Whether the server holds the key down; by its number there.
@@ -30,8 +30,8 @@ public:
 
 	// Which repeat the press is, counted from 1; 0 is none.
 	int32 repeats_of(const QKeyEvent& press) const;
-	// The receiver loses the keyboard.
-	void let_go(const QWidget& receiver);
+	// The owner of keys loses the keyboard.
+	void let_go(const QWidget& owner);
 	// The keyboard has come to that window of the program, or to none.
 	void moved_to(const QWindow* window);
 	// Keys may have gone up unseen.
@@ -42,10 +42,10 @@ public:
 private:
 	struct held_key {
 		// Null when it has gone.
-		QPointer<QObject> receiver;
+		QPointer<QObject> owner;
 		std::shared_ptr<const QKeyEvent> press;
 		int32 repeats = 0;
-		// The receiver has been told of the release.
+		// The owner has been told of the release.
 		bool spent = false;
 	};
 

@@ -254,6 +254,23 @@ TEST(key_filter, outlives_who_had_the_keyboard)
 }
 
 
+// Suggestions open as soon as a letter of the name goes.
+TEST(key_filter, repeats_for_a_field_whose_suggestions_open_or_close_meanwhile)
+{
+	with_keys([](keys& of) {
+		of.down(a_code);
+		auto* suggestions = new QWidget(&of.window, Qt::Popup);
+		suggestions->setFocusProxy(&of.first);
+		suggestions->show();
+		of.down(a_code);
+		delete suggestions;
+		of.down(a_code);
+		of.up(a_code);
+		EXPECT_EQ(of.notes, (journal{"+a", "+ar", "-a"})) << "one went to the suggestions";
+	});
+}
+
+
 TEST(key_filter, without_the_servers_word_trusts_the_toolkits_marks)
 {
 	with_keys([](keys& of) {
