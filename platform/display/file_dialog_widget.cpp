@@ -144,8 +144,7 @@ file_dialog_widget::_AskToDelete()
 		return;
 	const QString what =
 		paths.size() == 1 ? quoted_leaf(paths.front()) : QString("%1 files").arg(paths.size());
-	_Ask(
-		QString("Delete %1?").arg(what), "Delete", [this, paths] { _Delete(paths); }, false);
+	_Ask(QString("Delete %1?").arg(what), "Delete", [this, paths] { _Delete(paths); }, false);
 }
 
 

@@ -86,7 +86,7 @@ ends_without_reader(pipe_ends& pipe, const std::function<void()>& work)
 	std::thread watch([&] {
 		using namespace std::chrono_literals;
 		for (auto patience = 10'000ms; end.wait_for(patience) != std::future_status::ready;
-			 patience = 10ms) {
+			patience = 10ms) {
 			in_time = false;
 			pipe.contents();
 		}
