@@ -31,6 +31,8 @@ std::atomic<bool> is_serving{false};
 std::thread::id display_thread;
 QString* first_complaint = nullptr;
 QtMessageHandler say_as_usual = nullptr;
+// Set before other threads run.
+bool places_are_the_servers = false;
 
 
 // Qt aborts when it finds no display. This turns that into one line and a plain end.
@@ -82,6 +84,8 @@ make_application()
 	say_as_usual = qInstallMessageHandler(end_without_display);
 	QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
 	QCoreApplication::setAttribute(Qt::AA_CompressTabletEvents, false);
+	// How a desktop finds a window's icon, and its launcher, where windows bring none.
+	QGuiApplication::setDesktopFileName(KITS_DESKTOP_ID);
 	auto* application = new QApplication(count, arguments);
 	qInstallMessageHandler(end_with_display);
 	application->setQuitOnLastWindowClosed(false);
@@ -116,6 +120,7 @@ display::start()
 	leave_home_alone();
 	make_application();
 	watch_keys(*qApp);
+	places_are_the_servers = QGuiApplication::platformName().startsWith("wayland");
 	is_running = true;
 }
 
@@ -138,6 +143,13 @@ bool
 display::serving_here()
 {
 	return is_serving && std::this_thread::get_id() == display_thread;
+}
+
+
+bool
+display::server_places_windows()
+{
+	return places_are_the_servers;
 }
 
 

@@ -21,6 +21,9 @@ bool running();
 bool serving();
 // True on the display thread while it serves.
 bool serving_here();
+// True on Wayland, where the server alone knows the windows' places and suggests their sizes. After
+// start(), any thread.
+bool server_places_windows();
 
 // Queues a command. Any thread. Waits only when thousands are queued.
 void post(command work);
