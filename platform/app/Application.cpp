@@ -5,6 +5,7 @@
 #include "app/looper_state.h"
 #include "app/start_arguments.h"
 #include "display/display.h"
+#include "display/window_peer.h"
 #include "support/output.h"
 
 #include <algorithm>
@@ -17,7 +18,10 @@ using namespace kits;
 BApplication* be_app = nullptr;
 
 
-BApplication::BApplication(const char* signature) : BLooper(signature), fStarted(false)
+BApplication::BApplication(const char* signature)
+	: BLooper(signature),
+	  fStarted(false),
+	  fReady(false)
 {
 	never_wait_for_output();
 	display::start();
@@ -82,6 +86,29 @@ BApplication::_StartWindows()
 }
 
 
+// The files that the program was started with are open now, and the windows have been told. So each
+// is shown first with what is in it, at its size: after what its own queue holds.
+void
+BApplication::_ShowWindows()
+{
+	std::lock_guard guard(fWindowLock);
+	fReady = true;
+	for (BWindow* window : fShownLater)
+		window->PostMessage(show_now);
+	fShownLater.clear();
+}
+
+
+bool
+BApplication::_ShowsLater(BWindow* window)
+{
+	std::lock_guard guard(fWindowLock);
+	if (!fReady)
+		fShownLater.push_back(window);
+	return !fReady;
+}
+
+
 void
 BApplication::Quit()
 {
@@ -143,6 +170,7 @@ BApplication::DispatchMessage(BMessage* message, BHandler* handler)
 			break;
 		case B_READY_TO_RUN:
 			ReadyToRun();
+			_ShowWindows();
 			break;
 		default:
 			BLooper::DispatchMessage(message, handler);
@@ -197,6 +225,7 @@ BApplication::_RemoveWindow(BWindow* window)
 {
 	std::lock_guard guard(fWindowLock);
 	std::erase(fWindows, window);
+	std::erase(fShownLater, window);
 }
 
 

@@ -69,7 +69,14 @@ window_peers::position(const peer_ref& window)
 void
 window_peers::show(const peer_ref& window, bool shown)
 {
-	with_window(window, [=](window_widget& widget) { widget.setVisible(shown); });
+	with_window(window, [=](window_widget& widget) { widget.set_shown(shown); });
+}
+
+
+void
+window_peers::show_late(const peer_ref& window)
+{
+	with_window(window, [](window_widget& widget) { widget.show_late(); });
 }
 
 
@@ -92,8 +99,5 @@ window_peers::set_size(const peer_ref& window, int32 width, int32 height, int32 
 void
 window_peers::set_limits(const peer_ref& window, size_limits limits)
 {
-	with_window(window, [=](window_widget& widget) {
-		widget.setMinimumSize(limits.min_width, limits.min_height);
-		widget.setMaximumSize(limits.max_width, limits.max_height);
-	});
+	with_window(window, [=](window_widget& widget) { widget.set_limits(limits); });
 }

@@ -28,6 +28,8 @@ peer_ref make(BRect frame, const std::string& title, int32 looper,
 // Device pixels per kit pixel where the window is. Waits for the display.
 float ratio(const peer_ref& window);
 void show(const peer_ref& window, bool shown);
+// Shows it when nothing else has been asked for half a second.
+void show_late(const peer_ref& window);
 void set_position(const peer_ref& window, BPoint leftTop, int32 serial);
 // The serial tells which of the kit's changes a later report already knows.
 void set_size(const peer_ref& window, int32 width, int32 height, int32 serial);
@@ -48,6 +50,8 @@ constexpr const char* place_field = "place";
 constexpr uint32 pointer_left = '_LFT';
 // From the display: float "ratio" of the screen that the window has come to.
 constexpr uint32 ratio_changed = '_RTO';
+// From the application to a window that was to be shown before the application was ready.
+constexpr uint32 show_now = '_SHN';
 
 }
 

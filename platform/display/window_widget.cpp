@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/window_widget.h"
 
-#include "app/activity.h"
+#include "display/display.h"
 #include "display/input.h"
 #include "display/key_filter.h"
 #include "display/menu_widgets.h"
@@ -16,20 +16,27 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QResizeEvent>
-#include <QTimer>
+#include <QWindow>
 
 using namespace kits;
+
+// Milliseconds that a window waits for its first size.
+static const int latest_show = 500;
 
 
 window_widget::window_widget(int32 looper, std::shared_ptr<pointer_record> pointer)
 	: fLooper(looper),
 	  fPointer(std::move(pointer)),
+	  fZoom(*this, [this](bool restored) { _ZoomEnded(restored); }),
 	  fRatio(devicePixelRatio()),
 	  fFocus(*this, looper),
 	  fAhead(*this)
 {
 	// The only widget that takes drops, so that they all come here with their place.
 	setAcceptDrops(true);
+	fLateShow.setSingleShot(true);
+	fLateShow.setInterval(latest_show);
+	connect(&fLateShow, &QTimer::timeout, this, [this] { setVisible(true); });
 	setFocusPolicy(Qt::NoFocus);
 	setMouseTracking(true);
 	setTabletTracking(true);
@@ -37,24 +44,113 @@ window_widget::window_widget(int32 looper, std::shared_ptr<pointer_record> point
 
 
 void
-window_widget::set_size(int32 width, int32 height, int32 serial)
+window_widget::set_shown(bool shown)
 {
-	fSerial = serial;
-	resize(width, height);
+	fLateShow.stop();
+	setVisible(shown);
 }
 
 
 void
-window_widget::resizeEvent(QResizeEvent* event)
+window_widget::show_late()
 {
-	// What the zoom button makes of it is taken back at once.
-	if (isMaximized() || fUnzooming)
+	fLateShow.start();
+}
+
+
+void
+window_widget::set_size(int32 width, int32 height, int32 serial)
+{
+	fSerial = serial;
+	QSize chosen(width, height);
+	// A window that has not been shown has told nobody of its size.
+	if (isVisible() && display::server_places_windows())
+		fLeft.leave(size(), chosen);
+	fAgreed = chosen;
+	if (fZoom.under_way())
+		fZoom.restore_to(chosen);
+	else
+		_Resize(chosen);
+}
+
+
+void
+window_widget::set_limits(size_limits limits)
+{
+	setMinimumSize(limits.min_width, limits.min_height);
+	setMaximumSize(limits.max_width, limits.max_height);
+	fLimitedFrame = QMargins();
+	_TellLimits();
+}
+
+
+// Wayland servers limit the window with its frame, which Qt draws where the server does not. Qt
+// tells them the limits of the content.
+void
+window_widget::_TellLimits()
+{
+	if (!windowHandle() || !display::server_places_windows())
 		return;
+	QMargins frame = windowHandle()->frameMargins();
+	if (frame == fLimitedFrame)
+		return;
+	fLimitedFrame = frame;
+	QSize unlimited(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+	windowHandle()->setMinimumSize(minimumSize().grownBy(frame));
+	windowHandle()->setMaximumSize(maximumSize().grownBy(frame).boundedTo(unlimited));
+}
+
+
+void
+window_widget::_Resize(QSize size)
+{
+	if (!isMaximized() && !isFullScreen()) {
+		fResizing = true;
+		resize(size);
+		fResizing = false;
+	}
+	_Settle();
+}
+
+
+void
+window_widget::resizeEvent(QResizeEvent*)
+{
+	fZoom.geometry_changed();
+	_TellLimits();
+	if (!fZoom.under_way() && !fResizing)
+		_Settle();
+}
+
+
+// The looper and the widget are to have the same size in the end. The event of a change is no guide:
+// when two changes meet, it tells of the first while the widget has the second already.
+void
+window_widget::_Settle()
+{
+	if (size() == fAgreed)
+		return;
+	bool free = !isMaximized() && !isFullScreen();
+	if (free && fLeft.repeats(size(), std::chrono::steady_clock::now())) {
+		_Resize(fAgreed);
+		return;
+	}
+	fLeft.forget();
+	fAgreed = size();
 	BMessage resized(B_WINDOW_RESIZED);
-	resized.AddInt32(width_field, event->size().width());
-	resized.AddInt32(height_field, event->size().height());
+	resized.AddInt32(width_field, fAgreed.width());
+	resized.AddInt32(height_field, fAgreed.height());
 	resized.AddInt32(serial_field, fSerial);
 	post_to(fLooper, resized);
+}
+
+
+void
+window_widget::_ZoomEnded(bool restored)
+{
+	_Settle();
+	if (restored)
+		post_to(fLooper, BMessage(B_ZOOM));
 }
 
 
@@ -62,7 +158,8 @@ void
 window_widget::moveEvent(QMoveEvent* event)
 {
 	QWidget::moveEvent(event);
-	if (isMaximized() || fUnzooming)
+	fZoom.geometry_changed();
+	if (isMaximized() || fZoom.under_way())
 		return;
 	// The content's place, not that of its border, which the event tells.
 	QPoint place = geometry().topLeft();
@@ -104,21 +201,8 @@ void
 window_widget::changeEvent(QEvent* event)
 {
 	QWidget::changeEvent(event);
-	if (event->type() != QEvent::WindowStateChange || !isMaximized() || fUnzooming)
-		return;
-	// The zoom button asks too: the window decides on a size of its own. The display tells of the
-	// state a second time, so that it is taken back only after that; and of the size that returns
-	// with it, so that the window is asked after that.
-	fUnzooming = true;
-	activity::begin();
-	QTimer::singleShot(0, this, [this] {
-		setWindowState(windowState() & ~Qt::WindowMaximized);
-		QTimer::singleShot(0, this, [this] {
-			post_to(fLooper, BMessage(B_ZOOM));
-			fUnzooming = false;
-			activity::end();
-		});
-	});
+	if (event->type() == QEvent::WindowStateChange)
+		fZoom.state_changed();
 }
 
 

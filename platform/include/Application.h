@@ -48,6 +48,9 @@ private:
 	bool _AddWindow(BWindow* window);
 	void _RemoveWindow(BWindow* window);
 	void _StartWindows();
+	// Whether the window is shown later, when the application is ready.
+	bool _ShowsLater(BWindow* window);
+	void _ShowWindows();
 	void _QuitWindows();
 	bool _Started() const;
 	std::vector<BWindow*> _Windows() const;
@@ -57,6 +60,9 @@ private:
 	mutable std::mutex fWindowLock;
 	std::vector<BWindow*> fWindows;
 	bool fStarted;
+	bool fReady;
+	// Shown by the program before the application was ready.
+	std::vector<BWindow*> fShownLater;
 };
 
 extern BApplication* be_app;

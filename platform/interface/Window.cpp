@@ -122,7 +122,10 @@ BWindow::Show()
 	if (!Lock())
 		return;
 	if (--fWindow->hidden == 0) {
-		window_peers::show(fWindow->widget, true);
+		if (be_app->_ShowsLater(this))
+			window_peers::show_late(fWindow->widget);
+		else
+			window_peers::show(fWindow->widget, true);
 		fWindow->root->_ForgetImages();
 	}
 	bool first = fWindow->first_show;

@@ -75,6 +75,10 @@ BWindow::DispatchMessage(BMessage* message, BHandler* handler)
 		case focus_taken:
 			_FocusReported(*message);
 			break;
+		case show_now:
+			if (fWindow->hidden <= 0)
+				window_peers::show(fWindow->widget, true);
+			break;
 		case _UPDATE_:
 			break;
 		default:
