@@ -3,6 +3,7 @@
 #include "display/alert_dialog.h"
 
 #include "display/display.h"
+#include "display/owner.h"
 
 #include <algorithm>
 #include <QDialog>
@@ -126,6 +127,7 @@ alert_dialogs::show(const alert_text& text, const std::function<void(int)>& answ
 	display::post([=] {
 		made->widget = new alert_widget(text, answer);
 		QObject::connect(made->widget, &QObject::destroyed, [made] { made->widget = nullptr; });
+		tie_to_window(*made->widget);
 		made->widget->show();
 	});
 	return made;

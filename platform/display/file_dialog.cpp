@@ -4,6 +4,7 @@
 
 #include "display/display.h"
 #include "display/file_dialog_widget.h"
+#include "display/owner.h"
 
 #include <QApplication>
 #include <QThread>
@@ -48,8 +49,16 @@ void
 file_dialogs::show(const std::shared_ptr<file_dialog>& dialog, bool shown)
 {
 	display::post([=] {
-		if (dialog->widget)
-			dialog->widget->setVisible(shown);
+		if (!dialog->widget)
+			return;
+		if (shown && dialog->widget->isVisible()) {
+			dialog->widget->raise();
+			dialog->widget->activateWindow();
+			return;
+		}
+		if (shown)
+			tie_to_window(*dialog->widget);
+		dialog->widget->setVisible(shown);
 	});
 }
 

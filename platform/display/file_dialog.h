@@ -32,6 +32,7 @@ using dialog_answer = std::function<void(const std::vector<std::string>&)>;
 namespace file_dialogs {
 
 std::shared_ptr<file_dialog> make(const dialog_options& options, const dialog_answer& answer);
+// Shown again while it is on the screen, it comes to the front, where the desktop lets it.
 void show(const std::shared_ptr<file_dialog>& dialog, bool shown);
 void destroy(const std::shared_ptr<file_dialog>& dialog);
 

@@ -143,8 +143,12 @@ kernixview::mainwindow() const
 void
 kernixview::show_panel(file_panel_mode mode)
 {
-	if (fpanel != nullptr)
+	if (fpanel != nullptr) {
+		// It may lie behind other windows.
+		if (panel != nullptr && panel->IsShowing())
+			panel->Show();
 		return;
+	}
 	// One that is left has answered.
 	panel.reset();
 	panel = std::make_unique<BFilePanel>(
