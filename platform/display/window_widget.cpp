@@ -114,9 +114,9 @@ window_widget::_Resize(QSize size)
 
 
 void
-window_widget::resizeEvent(QResizeEvent*)
+window_widget::resizeEvent(QResizeEvent* event)
 {
-	fZoom.geometry_changed();
+	fZoom.geometry_changed(event->spontaneous());
 	_TellLimits();
 	if (!fZoom.under_way() && !fResizing)
 		_Settle();
@@ -149,6 +149,7 @@ void
 window_widget::_ZoomEnded(bool restored)
 {
 	_Settle();
+	_ReportPlace();
 	if (restored)
 		post_to(fLooper, BMessage(B_ZOOM));
 }
@@ -158,9 +159,15 @@ void
 window_widget::moveEvent(QMoveEvent* event)
 {
 	QWidget::moveEvent(event);
-	fZoom.geometry_changed();
-	if (isMaximized() || fZoom.under_way())
-		return;
+	fZoom.geometry_changed(event->spontaneous());
+	if (!isMaximized() && !fZoom.under_way())
+		_ReportPlace();
+}
+
+
+void
+window_widget::_ReportPlace()
+{
 	// The content's place, not that of its border, which the event tells.
 	QPoint place = geometry().topLeft();
 	BMessage moved(B_WINDOW_MOVED);

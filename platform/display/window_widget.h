@@ -51,6 +51,7 @@ private:
 	void _ReportRatio();
 	void _Resize(QSize size);
 	void _Settle();
+	void _ReportPlace();
 	void _ZoomEnded(bool restored);
 	void _TellLimits();
 

@@ -10,6 +10,12 @@ using namespace kits;
 
 // Milliseconds. A desktop that has told nothing for so long has restored the window, or will not.
 static const int quiet_time = 300;
+// Some desktops enlarge the window first, in steps, and tell of its state then. The steps come closer
+// together than the first of these times and take less than the second, unlike a user's dragging; the
+// state follows within the third.
+static const int between_steps = 100;
+static const int all_steps = 150;
+static const int before_state = 500;
 // How often the state is taken back before the desktop has its way.
 static const int most_tries = 3;
 
@@ -42,6 +48,8 @@ zoom_box::state_changed()
 	}
 	if (fStage == idle && !fKept) {
 		activity::begin();
+		if (!_IsEnlarged())
+			fBefore = fNow;
 		fTries = 0;
 		_TakeBackSoon();
 	} else if (fStage == restoring) {
@@ -51,13 +59,39 @@ zoom_box::state_changed()
 
 
 void
-zoom_box::geometry_changed()
+zoom_box::geometry_changed(bool by_desktop)
 {
-	if (fStage == idle)
-		fBefore = fWindow.geometry();
 	// A place comes after the size: both are one change.
-	else if (fStage == restoring)
+	if (fStage == restoring)
 		fQuiet.start(fWindow.geometry() == fBefore ? 0 : quiet_time);
+	if (fStage != idle)
+		return;
+	_Remember(by_desktop);
+}
+
+
+void
+zoom_box::_Remember(bool by_desktop)
+{
+	if (!by_desktop) {
+		fLast.invalidate();
+	} else {
+		if (!fLast.isValid() || fLast.hasExpired(between_steps)) {
+			fBefore = fNow;
+			fFirst.start();
+		}
+		fLast.start();
+	}
+	fNow = fWindow.geometry();
+}
+
+
+// Whether the desktop's last changes belong to the state that it tells of now.
+bool
+zoom_box::_IsEnlarged() const
+{
+	return fLast.isValid() && !fLast.hasExpired(before_state)
+		&& fFirst.elapsed() - fLast.elapsed() < all_steps;
 }
 
 
@@ -102,6 +136,7 @@ zoom_box::_End(bool restored)
 	// with this geometry all the same.
 	if (restored)
 		fWindow.setGeometry(fBefore);
+	_Remember(false);
 	fEnded(restored);
 	activity::end();
 }

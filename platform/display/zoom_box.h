@@ -4,6 +4,7 @@
 #define KITS_ZOOM_BOX_H
 
 #include <functional>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QRect>
 #include <QTimer>
@@ -23,8 +24,8 @@ public:
 
 	// The desktop has changed the window's state.
 	void state_changed();
-	// The window has another size or place, by whomever.
-	void geometry_changed();
+	// The window has another size or place, from the desktop or from the program.
+	void geometry_changed(bool by_desktop);
 	// The program has chosen another size since the press.
 	void restore_to(QSize size);
 	// From the press until it is over.
@@ -33,6 +34,8 @@ public:
 private:
 	enum stage { idle, maximized, restoring };
 
+	void _Remember(bool by_desktop);
+	bool _IsEnlarged() const;
 	void _TakeBackSoon();
 	void _TakeBack();
 	void _End(bool restored);
@@ -43,8 +46,12 @@ private:
 	int fTries = 0;
 	// The desktop insists on the maximized state.
 	bool fKept = false;
-	// The window's geometry before the press.
+	// The window's geometry, and the one before the desktop's last changes of it.
+	QRect fNow;
 	QRect fBefore;
+	// Since the first and since the last of these changes.
+	QElapsedTimer fFirst;
+	QElapsedTimer fLast;
 	QTimer fQuiet;
 };
 
