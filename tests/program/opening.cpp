@@ -255,6 +255,29 @@ TEST(opening, a_link_opens_what_it_leads_to)
 }
 
 
+TEST(opening, by_a_drop_takes_a_file_whose_name_is_not_UTF_8)
+{
+	temp_folder folder;
+	write_file(folder.path("caf\xE9.ttf"), tiny_font());
+	journey([&](kernix& app, robot& user) {
+		user.drop(BPoint(200, 200), {folder.path("caf\xE9.ttf")});
+		EXPECT_EQ(listed(app), tiny_tags);
+	});
+}
+
+
+TEST(opening, by_a_drop_of_what_has_gone_keeps_the_open_font)
+{
+	temp_folder folder;
+	temp_file font(tiny_font());
+	journey([&](kernix& app, robot& user) {
+		open_file(user, font.path());
+		user.drop(BPoint(200, 200), {folder.path("gone.ttf")});
+		EXPECT_EQ(listed(app), tiny_tags);
+	});
+}
+
+
 TEST(opening, lists_all_of_thirty_two_tables)
 {
 	font_file many = tiny_font();
