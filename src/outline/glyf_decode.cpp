@@ -212,12 +212,14 @@ ttf_glyf::decode_simple(cursor& record, int contours, uint64 stop, glyph* g, des
 	for (; stated > 0; stated--) {
 		uint16 number = ends.u16();
 		uint32 end = number == no_point && start == 0 && count <= no_point ? 0 : number + 1u;
-		bool whole = end >= start && end <= known;
-		uint32 there = std::min(end, known) > start ? std::min(end, known) - start : 0;
+		uint32 reached = std::min(end, known);
+		uint32 there = reached > start ? reached - start : 0;
 		uint32 kept = std::min(there, (uint32)shape::max_points);
-		g->partial |= !whole || kept < there;
+		bool whole = end >= start && end <= known;
+		if (!whole || kept < there)
+			g->partial = true;
 		// A contour of no points is one too; one that has lost them all is not.
-		if (kept > 0 || (whole && there == 0)) {
+		if (kept > 0 || (whole && end == start)) {
 			if (g->room() == 0 || !way.holds_contour()) {
 				g->partial = true;
 				return;

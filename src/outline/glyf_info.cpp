@@ -21,7 +21,9 @@ struct ttf_glyf::survey {
 	const glyph_places places;
 	std::vector<glyph_info> known; // by glyph; empty when nothing is kept
 	std::vector<uint16> path;
-	uint32 visits = most_visits; // left for the glyph at hand
+	// Component records that may still be visited for the glyph at hand, and for all of them.
+	uint32 visits = most_visits;
+	uint64 left = most_visits;
 };
 
 
@@ -46,12 +48,10 @@ ttf_glyf::all_info(uint32 count) const
 	notes.known.resize(count, {not_known, 0, 0, 0});
 	// More component records than the table can hold, unless glyphs share them: a font in which
 	// all do would ask for thousands of millions.
-	uint64 left = (uint64)length + most_visits;
+	notes.left = (uint64)length + most_visits;
 	for (uint32 i = 0; i < count; i++) {
-		const uint32 allowed = (uint32)std::min<uint64>(left, most_visits);
-		notes.visits = allowed;
+		notes.visits = most_visits;
 		info_of((uint16)i, notes);
-		left -= allowed - notes.visits;
 	}
 	return std::move(notes.known);
 }
@@ -139,8 +139,9 @@ ttf_glyf::composite_info(cursor& record, survey& notes) const
 	glyph_info sum = {};
 	component_names names(record);
 	uint16 index;
-	while (names.next(&index) && notes.visits > 0) {
+	while (names.next(&index) && notes.visits > 0 && notes.left > 0) {
 		notes.visits--;
+		notes.left--;
 		glyph_info part = info_of(index, notes);
 		sum.components++;
 		sum.contours += part.contours;
