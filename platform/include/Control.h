@@ -37,7 +37,6 @@ public:
 	status_t Invoke(BMessage* message = NULL) override;
 
 	void AttachedToWindow() override;
-	void MessageReceived(BMessage* message) override;
 
 protected:
 	bool _IsPainted() const override;

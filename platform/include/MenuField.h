@@ -29,7 +29,6 @@ public:
 	float Divider() const;
 
 	void AttachedToWindow() override;
-	void MessageReceived(BMessage* message) override;
 
 private:
 	friend class BMenu;

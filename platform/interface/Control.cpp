@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/invocation.h"
 #include "display/control_look.h"
-#include "display/field_peers.h"
 #include "interface/peer_access.h"
 #include "interface/view_state.h"
 
@@ -107,13 +106,6 @@ BControl::AttachedToWindow()
 		SetTarget(Window());
 	// Made with the window's colours; these are the parent's.
 	_TellPeer();
-}
-
-
-void
-BControl::MessageReceived(BMessage* message)
-{
-	BView::MessageReceived(message);
 }
 
 

@@ -95,13 +95,6 @@ BMenuField::AttachedToWindow()
 }
 
 
-void
-BMenuField::MessageReceived(BMessage* message)
-{
-	BView::MessageReceived(message);
-}
-
-
 bool
 BMenuField::_IsPainted() const
 {

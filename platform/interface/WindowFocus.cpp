@@ -71,8 +71,11 @@ BWindow::_FocusReported(const BMessage& report)
 		return;
 	}
 	// The walk may lead round to where it began: left and entered again, a field alone confirms too.
-	if (fWindow->focus == view)
+	if (fWindow->focus == view) {
 		_FollowFocus(nullptr);
+		if (fWindow->focus)
+			return;
+	}
 	_FollowFocus(view);
 }
 
