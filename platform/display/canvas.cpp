@@ -5,6 +5,7 @@
 #include "display/convert.h"
 #include "display/display.h"
 #include "display/fonts.h"
+#include "display/ink.h"
 
 #include <algorithm>
 #include <cmath>
@@ -91,37 +92,33 @@ canvas::~canvas() = default;
 void
 canvas::_Touched(const drawing_context& context, BRect rect)
 {
-	rect.OffsetBy(context.offset);
-	rect = rect & BRect(0, 0, (float)fWidth - 1, (float)fHeight - 1);
-	if (rect.IsValid())
-		fTouched = fTouched.IsValid() ? fTouched | rect : rect;
-}
-
-
-// The rectangle is in device pixels already.
-void
-canvas::_TouchedDevice(const QRectF& rect, float reach)
-{
-	BRect box((float)rect.left() / fRatio, (float)rect.top() / fRatio, (float)rect.right() / fRatio,
-		(float)rect.bottom() / fRatio);
-	box.InsetBy(-reach - 1, -reach - 1);
-	drawing_context here;
-	_Touched(here, box);
+	QRect place = device_pixels(to_qrect(rect), fRatio);
+	_TouchedDevice(place.translated(device_origin(context.offset, fRatio)));
 }
 
 
 void
-canvas::scroll(int32 dx, int32 dy)
+canvas::_TouchedDevice(const QRectF& place)
 {
-	int x = (int)std::lround((float)dx * fRatio);
-	int y = (int)std::lround((float)dy * fRatio);
+	BRect box = to_brect((place & QRectF(fImage->rect())).toAlignedRect());
+	if (box.IsValid())
+		fTouched = fTouched.IsValid() ? fTouched | box : box;
+}
+
+
+// By the difference of two rounded places: steps that are rounded by themselves would add up to
+// another place than the one where the view draws.
+void
+canvas::scroll(BPoint from, BPoint to)
+{
+	QPoint by = device_origin(-to, fRatio) - device_origin(-from, fRatio);
 	QImage before = fImage->copy();
 	{
 		QPainter paint(fImage.get());
 		paint.setCompositionMode(QPainter::CompositionMode_Source);
-		paint.drawImage(x, y, before);
+		paint.drawImage(by, before);
 	}
-	fTouched = BRect(0, 0, (float)fWidth - 1, (float)fHeight - 1);
+	_TouchedDevice(fImage->rect());
 }
 
 
@@ -133,7 +130,7 @@ canvas::take_over(const canvas& old)
 	QPainter paint(fImage.get());
 	paint.setCompositionMode(QPainter::CompositionMode_Source);
 	paint.drawImage(0, 0, *old.fImage);
-	fTouched = BRect(0, 0, (float)fWidth - 1, (float)fHeight - 1);
+	_TouchedDevice(fImage->rect());
 }
 
 
@@ -148,15 +145,17 @@ canvas::publish(front_image& front)
 	if (!front.image || front.image->size() != fImage->size())
 		front.image = std::make_unique<QImage>(fImage->size(), QImage::Format_RGB32);
 	front.image->setDevicePixelRatio(fRatio);
-	int left = std::max(0, (int)std::floor(touched.left * fRatio));
-	int top = std::max(0, (int)std::floor(touched.top * fRatio));
-	int right = std::min(fImage->width(), (int)std::ceil((touched.right + 1) * fRatio));
-	int bottom = std::min(fImage->height(), (int)std::ceil((touched.bottom + 1) * fRatio));
-	for (int y = top; y < bottom; y++) {
-		memcpy(front.image->scanLine(y) + 4 * (ptrdiff_t)left,
-			fImage->constScanLine(y) + 4 * (ptrdiff_t)left, 4 * (size_t)(right - left));
-	}
-	return touched;
+	auto start = 4 * (ptrdiff_t)touched.left;
+	auto length = 4 * (size_t)(touched.Width() + 1);
+	for (int y = (int)touched.top; y <= (int)touched.bottom; y++)
+		memcpy(front.image->scanLine(y) + start, fImage->constScanLine(y) + start, length);
+	// Where kit pixels end within device pixels, the toolkit may leave out those at the edges of what
+	// it is asked to repaint.
+	float margin = fRatio == std::floor(fRatio) ? 0 : 1;
+	return BRect(std::floor(touched.left / fRatio) - margin,
+		std::floor(touched.top / fRatio) - margin,
+		std::ceil((touched.right + 1) / fRatio) - 1 + margin,
+		std::ceil((touched.bottom + 1) / fRatio) - 1 + margin);
 }
 
 

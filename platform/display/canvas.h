@@ -116,11 +116,13 @@ public:
 	void text(const drawing_context& context, const char* text, int32 length, BPoint baseline);
 	void image(const drawing_context& context, const canvas& source, BPoint where);
 
-	// Moves the pixels; what comes in from outside is left as it is.
-	void scroll(int32 dx, int32 dy);
+	// Moves the pixels of a view from one scroll position to another; what comes in from outside is
+	// left as it is.
+	void scroll(BPoint from, BPoint to);
 	// Takes over what both have in common, left tops together.
 	void take_over(const canvas& old);
-	// Copies what was drawn since the last call to the front image. Empty when nothing was.
+	// Copies what was drawn since the last call to the front image. What has to be repainted, in kit
+	// pixels; empty when nothing was drawn.
 	BRect publish(front_image& front);
 
 private:
@@ -131,12 +133,13 @@ private:
 	bool _FillSmall(const drawing_context& context, BRect rect, const pattern& p, bool round);
 	// What publish() has to bring: a box in the view's pixels, or one in device pixels.
 	void _Touched(const drawing_context& context, BRect rect);
-	void _TouchedDevice(const QRectF& rect, float reach);
+	void _TouchedDevice(const QRectF& place);
 
 	std::unique_ptr<QImage> fImage;
 	int32 fWidth;
 	int32 fHeight;
 	float fRatio;
+	// In device pixels.
 	BRect fTouched;
 };
 

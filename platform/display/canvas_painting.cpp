@@ -123,6 +123,15 @@ inked(const drawing_context& context, BRect box)
 	return box;
 }
 
+
+// Device pixels that a path may reach with its ink, one more on each side.
+QRectF
+box_of(const QPainterPath& path, float reach)
+{
+	qreal around = reach + 1;
+	return path.controlPointRect().adjusted(-around, -around, around, around);
+}
+
 }
 
 
@@ -134,14 +143,13 @@ public:
 		: QPainter(target.fImage.get()),
 		  fState(*context.state),
 		  fRatio(target.fRatio),
-		  fOffset(context.offset)
+		  fOrigin(device_origin(context.offset, target.fRatio))
 	{
 		QRegion clip(pixels(to_qrect(context.clip)));
 		if (context.update) {
 			QRegion update;
-			QPoint offset((int)fOffset.x, (int)fOffset.y);
 			for (const QRect& rect : context.update->pixels())
-				update += pixels(rect.translated(offset));
+				update += pixels(rect).translated(fOrigin);
 			clip &= update;
 		}
 		if (context.covered) {
@@ -150,7 +158,7 @@ public:
 		}
 		setClipRegion(clip);
 		setRenderHint(Antialiasing, false);
-		setBrushOrigin(QPointF(fOffset.x * fRatio, fOffset.y * fRatio));
+		setBrushOrigin(fOrigin);
 		if (context.state->mode == B_OP_INVERT)
 			setCompositionMode(RasterOp_SourceXorDestination);
 	}
@@ -174,53 +182,48 @@ public:
 
 	QRect pixels(const QRect& rect) const { return device_pixels(rect, fRatio); }
 
-	QRect view_pixels(BRect rect) const
-	{
-		rect.OffsetBy(fOffset);
-		return pixels(to_qrect(rect));
-	}
+	QRect view_pixels(BRect rect) const { return pixels(to_qrect(rect)).translated(fOrigin); }
 
 	// The middle of the pixel that the point names.
 	QPointF centre(BPoint point) const
 	{
-		return QPointF(
-			(point.x + fOffset.x + 0.5F) * fRatio, (point.y + fOffset.y + 0.5F) * fRatio);
+		return QPointF((point.x + 0.5F) * fRatio, (point.y + 0.5F) * fRatio) + fOrigin;
 	}
 
 	// Where a line has its ends. Hairlines stay a little before the middle: from the very middle
 	// Qt rounds single points and rising lines to the pixel beyond.
 	QPointF line_end(BPoint point) const { return centre(point) - _Short(); }
 
-	// Makes the view's left top the origin of what is painted from here on. A thick stroke takes the
-	// same pixels then wherever the view is: Qt places its round ends by rounding, which depends on
-	// how large the coordinates are, and only moves what came of it.
-	void move_to_view()
-	{
-		translate(fOffset.x * fRatio, fOffset.y * fRatio);
-		setBrushOrigin(0, 0);
-	}
-
-	// The same point from that origin.
-	QPointF centre_in_view(BPoint point) const
-	{
-		return QPointF((point.x + 0.5F) * fRatio, (point.y + 0.5F) * fRatio);
-	}
-
-	// Thin strokes would land between pixels.
-	bool is_thick() const { return fState.pen_size * fState.scaled() > 1; }
-
 	// A path of the view's coordinates between pixel centres (strokes) or pixel edges (fills).
 	QPainterPath path(const outline& shape, BPoint by, bool stroked) const
 	{
 		QTransform map;
 		float edge = stroked ? 0.5F : 0;
+		map.translate(fOrigin.x(), fOrigin.y());
 		if (stroked)
 			map.translate(-_Short().x(), -_Short().y());
 		map.scale(fRatio, fRatio);
-		map.translate(fOffset.x + edge, fOffset.y + edge);
+		map.translate(edge, edge);
 		map.scale(fState.scaled(), fState.scaled());
 		map.translate(by.x, by.y);
 		return map.map(shape.path());
+	}
+
+	// Qt cuts a wide line off at the image before it works out its pixels, and they come out a little
+	// different elsewhere; after a scroll an inverted line could not be lifted. What is filled keeps them.
+	void draw_line(BPoint from, BPoint to, const pattern& p)
+	{
+		if (fRatio > 1 && from != to) {
+			QPainterPath line(line_end(from));
+			line.lineTo(line_end(to));
+			fillPath(QPainterPathStroker(stroke(p)).createStroke(line), fill(p));
+			return;
+		}
+		setPen(stroke(p));
+		if (is_thick())
+			draw_in_view(from, to);
+		else
+			drawLine(line_end(from), line_end(to));
 	}
 
 	// The pixels where a path's curves end, which Qt's hairlines may leave out. Not for inverting,
@@ -242,9 +245,23 @@ private:
 	bool _Hairline() const { return fState.pen_size * fState.scaled() <= 1 && fRatio <= 1; }
 	QPointF _Short() const { return _Hairline() ? QPointF(1.0 / 64, 1.0 / 64) : QPointF(); }
 
+	// Thin strokes would land between pixels.
+	bool is_thick() const { return fState.pen_size * fState.scaled() > 1; }
+
+	// A thick line takes the same pixels wherever the view is: Qt places its round ends by rounding,
+	// which depends on how large the coordinates are, and only moves what came of it.
+	void draw_in_view(BPoint from, BPoint to)
+	{
+		save();
+		translate(fOrigin);
+		setBrushOrigin(0, 0);
+		drawLine(centre(from) - fOrigin, centre(to) - fOrigin);
+		restore();
+	}
+
 	const drawing_state& fState;
 	float fRatio;
-	BPoint fOffset;
+	QPoint fOrigin;
 };
 
 
@@ -280,13 +297,7 @@ canvas::stroke_line(const drawing_context& context, BPoint from, BPoint to, cons
 	from = scaled(context, from);
 	to = scaled(context, to);
 	painter paint(*this, context);
-	paint.setPen(paint.stroke(p));
-	if (paint.is_thick()) {
-		paint.move_to_view();
-		paint.drawLine(paint.centre_in_view(from), paint.centre_in_view(to));
-	} else {
-		paint.drawLine(paint.line_end(from), paint.line_end(to));
-	}
+	paint.draw_line(from, to, p);
 	_Touched(context, inked(context, in_order(BRect(from, to))));
 }
 
@@ -355,7 +366,7 @@ canvas::stroke_path(
 	paint.strokePath(path, paint.stroke(p));
 	if (context.state->mode != B_OP_INVERT)
 		paint.mark_joints(path, p);
-	_TouchedDevice(path.controlPointRect(), inked(context, BRect(0, 0, 0, 0)).Width() / 2);
+	_TouchedDevice(box_of(path, inked(context, BRect(0, 0, 0, 0)).Width() / 2 * fRatio));
 }
 
 
@@ -368,7 +379,7 @@ canvas::fill_path(const drawing_context& context, const outline& shape, BPoint b
 	QPainterPath path = paint.path(shape, by, false);
 	path.setFillRule(Qt::WindingFill);
 	paint.fillPath(path, paint.fill(p));
-	_TouchedDevice(path.controlPointRect(), 1);
+	_TouchedDevice(box_of(path, fRatio));
 }
 
 
@@ -382,7 +393,7 @@ canvas::text(const drawing_context& context, const char* text, int32 length, BPo
 	painter paint(*this, context);
 	paint.setPen(to_qcolor(context.state->high));
 	paint.setFont(screen_font(font.Size(), font.Face() & B_BOLD_FACE));
-	paint.translate(context.offset.x * fRatio, context.offset.y * fRatio);
+	paint.translate(device_origin(context.offset, fRatio));
 	paint.scale(fRatio * scale, fRatio * scale);
 	paint.drawText(QPointF(baseline.x, baseline.y), QString::fromUtf8(text, length));
 	font_height height = text_height(font);

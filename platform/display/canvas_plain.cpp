@@ -60,8 +60,8 @@ canvas::_FillSmall(const drawing_context& context, BRect rect, const pattern& p,
 	bool plain = inverts || state.mode == B_OP_COPY;
 	if (!plain || !uniform(p, 0xFF) || context.update || context.covered)
 		return false;
-	rect.OffsetBy(context.offset);
 	QRect place = device_pixels(to_qrect(rect), fRatio);
+	place.translate(device_origin(context.offset, fRatio));
 	if (place.isEmpty() || place.width() > small || place.height() > small)
 		return false;
 	QRect within = place & device_pixels(to_qrect(context.clip), fRatio) & fImage->rect();

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <GraphicsDefs.h>
 #include <iterator>
+#include <Point.h>
 #include <QRect>
 
 namespace kits {
@@ -29,6 +30,16 @@ device_pixels(const QRect& rect, float ratio)
 	int right = (int)std::ceil((float)(rect.right() + 1) * ratio);
 	int bottom = (int)std::ceil((float)(rect.bottom() + 1) * ratio);
 	return QRect(left, top, right - left, bottom - top);
+}
+
+
+// Where the view's (0, 0) is on the canvas, in device pixels. Rounded here, once for all that the
+// view draws: at every scroll position it then has the same pixels, a whole number of them further
+// on. Rounded downward, so that the view's bounds reach to both ends of the canvas.
+inline QPoint
+device_origin(BPoint offset, float ratio)
+{
+	return QPoint(-(int)std::floor(-offset.x * ratio), -(int)std::floor(-offset.y * ratio));
 }
 
 }

@@ -32,11 +32,9 @@ view_widget::paintEvent(QPaintEvent* event)
 		paint.fillRect(event->rect(), palette().window());
 		return;
 	}
-	QRectF place(event->rect());
-	qreal ratio = fFront->image->devicePixelRatio();
-	paint.drawImage(place, *fFront->image,
-		QRectF(
-			place.x() * ratio, place.y() * ratio, place.width() * ratio, place.height() * ratio));
+	// All of it, whatever has to be repainted: a part would begin within a pixel where a kit pixel
+	// does not end with one of the screen's.
+	paint.drawImage(QPointF(0, 0), *fFront->image);
 }
 
 

@@ -216,8 +216,8 @@ window_widget::changeEvent(QEvent* event)
 bool
 window_widget::event(QEvent* event)
 {
-	if (event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::Show)
-		_ReportRatio();
+	// Whatever changes the scale, the toolkit repaints the window then, if it tells nothing else.
+	_ReportRatio();
 	// Where no view is: the one that the pointer was over has to be told.
 	return take_pointer(fLooper, *this, *event) || QWidget::event(event);
 }

@@ -220,7 +220,7 @@ void
 BView::_ScrollContents(BPoint by)
 {
 	if (fState->image) {
-		fState->image->scroll((int32)-by.x, (int32)-by.y);
+		fState->image->scroll(fState->scroll - by, fState->scroll);
 		_Touched();
 	}
 	BRect bounds = Bounds();

@@ -26,6 +26,18 @@ cover(region& covered, const views& all, views::const_iterator first)
 	}
 }
 
+
+// What has to be drawn for an update: where kit pixels end within device pixels, it shows a part of
+// those around it as well.
+BRect
+shown_by(const region& update, float ratio)
+{
+	BRect box = update.bounds();
+	if (ratio != std::floor(ratio))
+		box.InsetBy(-1, -1);
+	return box;
+}
+
 }
 
 
@@ -178,7 +190,7 @@ BView::_Update()
 	if (fState->view_color.alpha != B_TRANSPARENT_COLOR.alpha)
 		context.target->erase(context, update.bounds(), fState->view_color);
 	if (fState->flags & B_WILL_DRAW)
-		Draw(update.bounds());
+		Draw(shown_by(update, fState->image->ratio()));
 	fState->updating = nullptr;
 	// Also what an unbalanced Draw() left behind.
 	while (fState->pushed.size() > depth)
