@@ -9,6 +9,7 @@
 #include <cmath>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 
 using namespace kits;
 
@@ -25,11 +26,14 @@ page_of(const scroll_bar_look& look)
 }
 
 
-// Clicks beside the thumb move by the kit's large step, whatever the thumb's length says. No menu
+// What the user does is reported, but for the wheel, which is the kit's to follow. Clicks beside the
+// thumb move by the kit's large step, whatever the thumb's length says. No menu
 // comes up: the toolkit's own is not the kit's, and would hold up the display in a loop of its own.
 class scroll_bar_widget : public QScrollBar {
 public:
-	scroll_bar_widget(Qt::Orientation posture, QWidget* parent) : QScrollBar(posture, parent)
+	scroll_bar_widget(Qt::Orientation posture, QWidget* parent, report_address report)
+		: QScrollBar(posture, parent),
+		  fReport(report)
 	{
 		setContextMenuPolicy(Qt::PreventContextMenu);
 		connect(this, &QScrollBar::actionTriggered, [this](int action) {
@@ -38,20 +42,43 @@ public:
 			else if (action == SliderPageStepSub)
 				setSliderPosition(value() - fLargeStep);
 		});
+		connect(this, &QScrollBar::valueChanged, [this] { _Report(); });
 	}
 
 	void set(const scroll_bar_look& look)
 	{
-		QSignalBlocker quiet(this);
-		fLargeStep = look.large_step;
-		setRange(look.min, look.max);
-		setPageStep(page_of(look));
-		setSingleStep(look.small_step);
-		setValue(look.value);
-		setEnabled(look.min < look.max);
+		int before = value();
+		bool ahead = look.seen < fMoves;
+		{
+			QSignalBlocker quiet(this);
+			fLargeStep = look.large_step;
+			setRange(look.min, look.max);
+			setPageStep(page_of(look));
+			setSingleStep(look.small_step);
+			if (!ahead)
+				setValue(look.value);
+			setEnabled(look.min < look.max);
+		}
+		// The kit is about to hear of a value that the range has just taken away.
+		if (ahead && value() != before)
+			_Report();
 	}
 
+protected:
+	void wheelEvent(QWheelEvent* event) override { take_pointer(fReport.looper, *this, *event); }
+
 private:
+	void _Report()
+	{
+		BMessage message(scrolled);
+		message.AddInt32("value", value());
+		message.AddInt32("moves", ++fMoves);
+		post_to(fReport.looper, fReport.handler, message);
+	}
+
+	const report_address fReport;
+	// How often the user has moved the thumb.
+	int32 fMoves = 0;
 	int fLargeStep = 0;
 };
 
@@ -66,13 +93,9 @@ control_peers::make_scroll_bar(const peer_ref& parent, BRect frame, bool shown, 
 	display::post([=] {
 		if (!parent->widget)
 			return;
-		auto* bar = new scroll_bar_widget(vertical ? Qt::Vertical : Qt::Horizontal, parent->widget);
+		auto* bar =
+			new scroll_bar_widget(vertical ? Qt::Vertical : Qt::Horizontal, parent->widget, report);
 		bar->set(look);
-		QObject::connect(bar, &QScrollBar::valueChanged, [=](int value) {
-			BMessage message(scrolled);
-			message.AddInt32("value", value);
-			post_to(report.looper, report.handler, message);
-		});
 		adopt(made, bar, frame, shown);
 	});
 	return made;

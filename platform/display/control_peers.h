@@ -15,10 +15,12 @@ struct scroll_bar_look {
 	int32 large_step;
 	// Length of the thumb as a part of the bar.
 	float proportion;
+	// How many of the user's moves the kit has heard of. The value stands only if that is all.
+	int32 seen;
 };
 
 // Report of what a user did, for the kit object to act on.
-constexpr uint32 scrolled = '_SCR'; // int32 "value"
+constexpr uint32 scrolled = '_SCR'; // int32 "value", int32 "moves": a count of them
 
 // Commands; any thread.
 namespace control_peers {

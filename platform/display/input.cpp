@@ -143,11 +143,18 @@ post_tablet(int32 looper, uint32 what, const QWidget& widget, const QTabletEvent
 void
 post_wheel(int32 looper, const QWidget& widget, const QWheelEvent& event)
 {
+	QPoint turned = event.angleDelta();
+	// A wheel that turns one way only goes across with Shift.
+	if (event.modifiers() & Qt::ShiftModifier && turned.x() == 0)
+		turned = turned.transposed();
+	// Fingers have come down on a touchpad, or have left it.
+	if (turned.isNull())
+		return;
 	// One notch is 120 of Qt's units and one of the platform's, which counts downward.
 	BMessage message(B_MOUSE_WHEEL_CHANGED);
 	add_place(message, widget, event.position(), event.globalPosition());
-	message.AddFloat("be:wheel_delta_x", -(float)event.angleDelta().x() / 120);
-	message.AddFloat("be:wheel_delta_y", -(float)event.angleDelta().y() / 120);
+	message.AddFloat("be:wheel_delta_x", -(float)turned.x() / 120);
+	message.AddFloat("be:wheel_delta_y", -(float)turned.y() / 120);
 	post_to(looper, message);
 }
 

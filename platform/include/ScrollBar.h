@@ -47,6 +47,8 @@ private:
 	void _MakePeer() override;
 	bool _IsPainted() const override;
 	void _TellPeer();
+	void _Scrolled(const BMessage& report);
+	void _Turn(float notches);
 	kits::scroll_bar_look _Look() const;
 
 	BView* fTarget;
@@ -56,6 +58,12 @@ private:
 	float fProportion;
 	float fSmallStep;
 	float fLargeStep;
+	// What the wheel has turned beyond whole pixels.
+	float fTurned;
+	// How many of the user's moves of the thumb the bar has heard of.
+	int32 fMoves;
+	// The thumb is where the value goes, or further.
+	bool fFollowing;
 	const orientation fPosture;
 };
 

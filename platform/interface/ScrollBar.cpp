@@ -5,12 +5,17 @@
 #include "interface/window_state.h"
 
 #include <algorithm>
+#include <AppDefs.h>
 #include <cmath>
 #include <Message.h>
 #include <ScrollBar.h>
 #include <Window.h>
 
 using namespace kits;
+
+
+// Of the bar, for one notch of the wheel.
+static constexpr float wheel_steps = 3;
 
 
 // A bar keeps to its edge of the window and grows along it.
@@ -33,6 +38,9 @@ BScrollBar::BScrollBar(
 	  fProportion(1),
 	  fSmallStep(1),
 	  fLargeStep(10),
+	  fTurned(0),
+	  fMoves(0),
+	  fFollowing(false),
 	  fPosture(posture)
 {
 	SetTarget(target);
@@ -55,7 +63,9 @@ BScrollBar::SetValue(float value)
 	if (value == fValue)
 		return;
 	fValue = value;
-	_TellPeer();
+	fTurned = 0;
+	if (!fFollowing)
+		_TellPeer();
 	ValueChanged(value);
 }
 
@@ -143,6 +153,7 @@ BScrollBar::SetTarget(BView* target)
 	if (fTarget)
 		fTarget->fState->bars[fPosture] = nullptr;
 	fTarget = target;
+	fTurned = 0;
 	if (!target)
 		return;
 	if (BScrollBar* other = target->fState->bars[fPosture])
@@ -175,10 +186,50 @@ BScrollBar::Orientation() const
 void
 BScrollBar::MessageReceived(BMessage* message)
 {
-	if (message->what == scrolled)
-		SetValue((float)message->FindInt32("value"));
-	else
-		BView::MessageReceived(message);
+	switch (message->what) {
+		case scrolled:
+			_Scrolled(*message);
+			break;
+		case B_MOUSE_WHEEL_CHANGED: {
+			// Over the bar itself a wheel that turns one way only goes the bar's way.
+			float across = message->FindFloat("be:wheel_delta_x");
+			float down = message->FindFloat("be:wheel_delta_y");
+			bool vertical = fPosture == B_VERTICAL;
+			_Turn((vertical && down != 0) || across == 0 ? down : across);
+			break;
+		}
+		default:
+			BView::MessageReceived(message);
+	}
+}
+
+
+// The thumb is not told where it is: by now it may be further on.
+void
+BScrollBar::_Scrolled(const BMessage& report)
+{
+	int32 value = report.FindInt32("value");
+	fMoves = report.FindInt32("moves");
+	fFollowing = true;
+	SetValue((float)value);
+	fFollowing = false;
+	// Unless it cannot be there.
+	if (fValue != (float)value)
+		_TellPeer();
+}
+
+
+// A fine wheel turns by less than a pixel at a time; the parts add up.
+void
+BScrollBar::_Turn(float notches)
+{
+	float turned = fTurned + notches * fSmallStep * wheel_steps;
+	if (!std::isfinite(turned))
+		return;
+	float wanted = fValue + std::round(turned);
+	SetValue(wanted);
+	// At the end of the bar there is nothing to go on with.
+	fTurned = fValue == wanted ? turned - std::round(turned) : 0;
 }
 
 
@@ -197,13 +248,14 @@ kits::scroll_bar_look
 BScrollBar::_Look() const
 {
 	return {clamped(fMin), clamped(fMax), clamped(fValue), clamped(fSmallStep), clamped(fLargeStep),
-		fProportion};
+		fProportion, fMoves};
 }
 
 
 void
 BScrollBar::_MakePeer()
 {
+	fMoves = 0;
 	fState->widget = control_peers::make_scroll_bar(_ParentWidget(), _PeerFrame(),
 		fState->hidden <= 0, fPosture == B_VERTICAL, _Look(), {_WindowToken(), _Token()});
 }

@@ -29,9 +29,6 @@ edge_step(uint32 mode, int digit, uint32 follow, float length, float delta)
 enum { right_digit, bottom_digit, left_digit, top_digit };
 enum { follow_bottom = 3, follow_right = 4 };
 
-// Pixels of one notch of the wheel in small steps of the bar.
-constexpr float wheel_steps = 3;
-
 }
 
 
@@ -260,12 +257,10 @@ BView::_Wheel(BMessage* message)
 		BHandler::MessageReceived(message);
 		return;
 	}
-	float x = message->FindFloat("be:wheel_delta_x");
-	float y = message->FindFloat("be:wheel_delta_y");
 	if (across)
-		across->SetValue(across->fValue + x * across->fSmallStep * wheel_steps);
+		across->_Turn(message->FindFloat("be:wheel_delta_x"));
 	if (down)
-		down->SetValue(down->fValue + y * down->fSmallStep * wheel_steps);
+		down->_Turn(message->FindFloat("be:wheel_delta_y"));
 }
 
 

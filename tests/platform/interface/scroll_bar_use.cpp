@@ -4,6 +4,7 @@
 // Scroll bars under a user's hand.
 #include <ScrollBar.h>
 
+#include "display/display.h"
 #include "platform/interface/stage.h"
 
 #include <gtest/gtest.h>
@@ -31,16 +32,23 @@ add_scrolled_view(test_window& window)
 }
 
 
+// Display thread only.
+QScrollBar*
+shown_bar()
+{
+	for (QWidget* widget : QApplication::allWidgets()) {
+		if (auto* bar = dynamic_cast<QScrollBar*>(widget); bar && bar->isVisible())
+			return bar;
+	}
+	return nullptr;
+}
+
+
 bool
 bar_is_enabled(robot& user)
 {
 	bool enabled = false;
-	user.on_display([&] {
-		for (QWidget* widget : QApplication::allWidgets()) {
-			if (auto* bar = dynamic_cast<QScrollBar*>(widget); bar && bar->isVisible())
-				enabled = bar->isEnabled();
-		}
-	});
+	user.on_display([&] { enabled = shown_bar()->isEnabled(); });
 	return enabled;
 }
 
@@ -190,5 +198,78 @@ TEST(scroll_bar_use, the_secondary_button_brings_no_menu)
 		user.on_display([&] { open = QApplication::activePopupWidget() != nullptr; });
 		EXPECT_FALSE(open);
 		EXPECT_EQ(user.scroll_bar(B_VERTICAL), (std::vector<int>{0, 300, 0, 100}));
+	});
+}
+
+
+TEST(scroll_bar_use, the_thumb_stays_under_a_hand_that_is_ahead_of_the_view)
+{
+	with_window([](test_window& window, robot& user) {
+		scrolled_view of = add_scrolled_view(window);
+		user.settle();
+		std::vector<int> thumb;
+		window.locked([&] {
+			of.view->on_draw = [&](BRect) {
+				kits::display::call([&] { thumb.push_back(shown_bar()->value()); });
+			};
+			for (int value : {10, 20, 30})
+				user.act([&](QWidget&) { shown_bar()->setSliderPosition(value); });
+		});
+		user.settle();
+		window.locked([&] {
+			EXPECT_EQ(thumb, (std::vector<int>{30, 30, 30}));
+			EXPECT_EQ(of.view->Bounds().top, 30);
+		});
+	});
+}
+
+
+TEST(scroll_bar_use, steps_count_while_the_view_is_slow)
+{
+	with_window([](test_window& window, robot& user) {
+		scrolled_view of = add_scrolled_view(window);
+		user.settle();
+		auto step = [] { shown_bar()->triggerAction(QAbstractSlider::SliderSingleStepAdd); };
+		window.locked([&] {
+			int more = 5;
+			of.view->on_draw = [&, more](BRect) mutable {
+				if (more-- > 0)
+					kits::display::call(step);
+			};
+			for (int i = 0; i < 5; i++)
+				user.act([&](QWidget&) { step(); });
+		});
+		user.settle();
+		EXPECT_EQ(user.scroll_bar(B_VERTICAL), (std::vector<int>{0, 300, 50, 100}));
+		window.locked([&] { EXPECT_EQ(of.view->Bounds().top, 50); });
+	});
+}
+
+
+TEST(scroll_bar_use, a_range_that_shrinks_and_grows_under_the_hand_leaves_thumb_and_view_together)
+{
+	with_window([](test_window& window, robot& user) {
+		scrolled_view of = add_scrolled_view(window);
+		user.settle();
+		window.locked([&] {
+			user.act([&](QWidget&) { shown_bar()->setSliderPosition(280); });
+			of.bar->SetRange(0, 100);
+			of.bar->SetRange(0, 300);
+		});
+		user.settle();
+		const int thumb = user.scroll_bar(B_VERTICAL)[2];
+		EXPECT_EQ(thumb, 100);
+		window.locked([&] { EXPECT_EQ(of.view->Bounds().top, thumb); });
+	});
+}
+
+
+TEST(scroll_bar_use, the_program_moves_the_thumb_after_the_user_has)
+{
+	with_window([](test_window& window, robot& user) {
+		scrolled_view of = add_scrolled_view(window);
+		user.drag_scroll_bar(B_VERTICAL, 123);
+		window.locked([&] { of.view->ScrollTo(0, 7); });
+		EXPECT_EQ(user.scroll_bar(B_VERTICAL)[2], 7);
 	});
 }
