@@ -8,6 +8,7 @@
 #include "display/look.h"
 #include "display/type_ahead.h"
 #include "display/x_keyboard.h"
+#include "display/pointer_watch.h"
 
 #include <atomic>
 #include <cerrno>
@@ -121,6 +122,7 @@ display::start()
 	make_application();
 	watch_keys(*qApp);
 	places_are_the_servers = QGuiApplication::platformName().startsWith("wayland");
+	qApp->installEventFilter(new pointer_watch);
 	is_running = true;
 }
 

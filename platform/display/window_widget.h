@@ -32,6 +32,7 @@ public:
 	pointer_record& pointer() const { return *fPointer; }
 	focus_keeper& focus() { return fFocus; }
 	type_ahead& ahead() { return fAhead; }
+	int32 looper() const { return fLooper; }
 
 protected:
 	void resizeEvent(QResizeEvent* event) override;

@@ -15,6 +15,35 @@
 using namespace kits;
 
 
+namespace {
+
+// The lock of a window for as long as this lives; false when the window has quit. What is only asked
+// takes it too, since the window's thread may be changing the answer.
+class window_lock {
+public:
+	explicit window_lock(const BWindow& window)
+		: fWindow(const_cast<BWindow&>(window)),
+		  fHeld(fWindow.Lock())
+	{
+	}
+	~window_lock()
+	{
+		if (fHeld)
+			fWindow.Unlock();
+	}
+	window_lock(const window_lock&) = delete;
+	window_lock& operator=(const window_lock&) = delete;
+
+	explicit operator bool() const { return fHeld; }
+
+private:
+	BWindow& fWindow;
+	const bool fHeld;
+};
+
+}
+
+
 BWindow::BWindow(BRect frame, const char* title, window_type, uint32, uint32)
 	: BLooper(title),
 	  fWindow(new window_state)
@@ -94,21 +123,26 @@ BWindow::RemoveChild(BView* child)
 int32
 BWindow::CountChildren() const
 {
-	return fWindow->root->CountChildren();
+	const window_lock lock(*this);
+	return lock ? fWindow->root->CountChildren() : 0;
 }
 
 
 BView*
 BWindow::ChildAt(int32 index) const
 {
-	return fWindow->root->ChildAt(index);
+	const window_lock lock(*this);
+	return lock ? fWindow->root->ChildAt(index) : nullptr;
 }
 
 
 BView*
 BWindow::FindView(const char* name) const
 {
-	for (int32 i = 0; BView* child = ChildAt(i); i++) {
+	const window_lock lock(*this);
+	if (!lock)
+		return nullptr;
+	for (const BView* child : fWindow->root->fState->children) {
 		if (BView* found = child->FindView(name))
 			return found;
 	}
@@ -210,6 +244,9 @@ BWindow::FrameResized(float, float)
 void
 BWindow::Zoom()
 {
+	const window_lock lock(*this);
+	if (!lock)
+		return;
 	BRect frame = Frame();
 	float width = std::min(fWindow->zoom_width, fWindow->max_width);
 	float height = std::min(fWindow->zoom_height, fWindow->max_height);
@@ -226,6 +263,9 @@ BWindow::Zoom()
 void
 BWindow::Zoom(BPoint leftTop, float width, float height)
 {
+	const window_lock lock(*this);
+	if (!lock)
+		return;
 	MoveTo(leftTop);
 	ResizeTo(width, height);
 }
@@ -266,7 +306,8 @@ BWindow::_SetSize(float width, float height)
 	fWindow->height = height;
 	fWindow->root->ResizeTo(width, height);
 	fWindow->dirty = true;
-	PostMessage(B_VIEW_RESIZED);
+	if (!fWindow->resize_told)
+		fWindow->resize_told = PostMessage(B_VIEW_RESIZED) == B_OK;
 }
 
 

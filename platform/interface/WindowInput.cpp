@@ -41,6 +41,11 @@ BWindow::_Deliver(BMessage* message, BHandler* handler)
 		case B_SIMPLE_DATA:
 			_DeliverDrop(message);
 			break;
+		case B_VIEW_RESIZED:
+			// A change from now on is told by another.
+			fWindow->resize_told = false;
+			BLooper::_Deliver(message, handler);
+			break;
 		default:
 			BLooper::_Deliver(message, handler);
 	}

@@ -36,6 +36,8 @@ struct window_state {
 	// The frame before zooming, and whether the window is in the zoomed one.
 	BRect unzoomed;
 	bool zoomed = false;
+	// A message that tells of a change of size is on its way.
+	bool resize_told = false;
 
 	int32 hidden = 1;
 	bool first_show = true;
