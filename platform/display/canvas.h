@@ -80,6 +80,8 @@ struct front_image {
 
 	std::mutex lock;
 	std::unique_ptr<QImage> image;
+	// What is seen while there is no image: the window's own colour when it is transparent.
+	rgb_color background = B_TRANSPARENT_COLOR;
 	// Set while an update of the peer is on its way; what it will bring to the screen.
 	bool asked = false;
 	BRect dirty;

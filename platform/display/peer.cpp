@@ -85,6 +85,16 @@ peers::set_navigable(const peer_ref& view, bool navigable)
 
 
 void
+peers::set_front(const peer_ref& view, const std::shared_ptr<front_image>& front)
+{
+	display::post([=] {
+		if (view->widget)
+			static_cast<view_widget*>(view->widget)->show_front(front);
+	});
+}
+
+
+void
 peers::stack_under(const peer_ref& view, const peer_ref& other)
 {
 	display::post([=] {

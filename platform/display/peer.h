@@ -39,6 +39,8 @@ void set_frame(const peer_ref& view, BRect frame);
 void set_shown(const peer_ref& view, bool shown);
 // Whether Tab walks to it.
 void set_navigable(const peer_ref& view, bool navigable);
+// Another front image for a plain view: the one before goes when nothing shows it any more.
+void set_front(const peer_ref& view, const std::shared_ptr<front_image>& front);
 // Below the other in the stacking order of siblings.
 void stack_under(const peer_ref& view, const peer_ref& other);
 // Shows what was published: one update at a time is on its way.

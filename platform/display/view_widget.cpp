@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "display/view_widget.h"
 
+#include "display/convert.h"
 #include "display/input.h"
 
 #include <QImage>
@@ -28,8 +29,10 @@ view_widget::paintEvent(QPaintEvent* event)
 	QPainter paint(this);
 	std::lock_guard guard(fFront->lock);
 	if (!fFront->image) {
-		// Nothing drawn yet: the window's own colour for a frame or two.
-		paint.fillRect(event->rect(), palette().window());
+		// Nothing drawn yet: what the view will be erased with, for a frame or two.
+		bool opaque = fFront->background.alpha != B_TRANSPARENT_COLOR.alpha;
+		paint.fillRect(
+			event->rect(), opaque ? QBrush(to_qcolor(fFront->background)) : palette().window());
 		return;
 	}
 	// All of it, whatever has to be repainted: a part would begin within a pixel where a kit pixel

@@ -18,13 +18,16 @@ public:
 
 	int32 view() const override { return fReport.handler; }
 
+	// From now on; nothing of the one before is kept.
+	void show_front(std::shared_ptr<front_image> front) { fFront = std::move(front); }
+
 protected:
 	void paintEvent(QPaintEvent* event) override;
 	bool event(QEvent* event) override;
 
 private:
 	const report_address fReport;
-	const std::shared_ptr<front_image> fFront;
+	std::shared_ptr<front_image> fFront;
 };
 
 // Makes the widget the peer's, in its place. Display thread.

@@ -335,6 +335,14 @@ BView::_ForgetImages()
 	fState->image = nullptr;
 	fState->invalid.clear();
 	Invalidate();
+	if (fState->widget && fState->parent && _IsPainted()) {
+		if (IsHidden()) {
+			fState->front = std::make_shared<front_image>();
+			peers::set_front(fState->widget, fState->front);
+		}
+		std::lock_guard guard(fState->front->lock);
+		fState->front->background = fState->view_color;
+	}
 	for (BView* child : fState->children)
 		child->_ForgetImages();
 }
