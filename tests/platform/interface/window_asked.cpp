@@ -41,20 +41,20 @@ TEST(window_asked, for_its_views_waits_for_the_lock)
 		const BView* found = nullptr;
 		auto* view = new test_view(BRect(0, 0, 9, 9), "view");
 		auto add = [&] { window.AddChild(view); };
-		while_held(
-			window, [&] { count = window.CountChildren(); }, add);
-		EXPECT_EQ(count, 1);
 		auto replace = [&] {
 			window.RemoveChild(view);
 			delete view;
 			view = new test_view(BRect(0, 0, 9, 9), "other");
 			window.AddChild(view);
 		};
-		while_held(
-			window, [&] { first = window.ChildAt(0); }, replace);
+		auto ask_count = [&] { count = window.CountChildren(); };
+		auto ask_first = [&] { first = window.ChildAt(0); };
+		auto ask_name = [&] { found = window.FindView("other"); };
+		while_held(window, ask_count, add);
+		EXPECT_EQ(count, 1);
+		while_held(window, ask_first, replace);
 		EXPECT_EQ(first, view);
-		while_held(
-			window, [&] { found = window.FindView("other"); }, replace);
+		while_held(window, ask_name, replace);
 		EXPECT_EQ(found, view);
 	});
 }
@@ -75,9 +75,9 @@ TEST(window_asked, after_it_has_quit_has_no_views)
 TEST(window_asked, to_zoom_waits_for_the_lock)
 {
 	with_window([](test_window& window, robot&) {
-		while_held(
-			window, [&] { window.Zoom(); },
-			[&] { EXPECT_EQ(window.zoomed, std::vector<BRect>{}); });
+		auto zoom = [&] { window.Zoom(); };
+		auto not_yet = [&] { EXPECT_EQ(window.zoomed, std::vector<BRect>{}); };
+		while_held(window, zoom, not_yet);
 		EXPECT_EQ(window.zoomed.size(), 1U);
 	});
 }
