@@ -62,14 +62,14 @@ static constexpr auto format = QImage::Format_RGB32;
 
 // The device pixels that a length needs.
 static int
-device_pixels(int32 length, float ratio)
+device_length(int32 length, float ratio)
 {
 	return (int)std::ceil((float)length * ratio);
 }
 
 
 canvas::canvas(int32 width, int32 height, float ratio)
-	: fImage(new QImage(device_pixels(width, ratio), device_pixels(height, ratio), format)),
+	: fImage(new QImage(device_length(width, ratio), device_length(height, ratio), format)),
 	  fWidth(width),
 	  fHeight(height),
 	  fRatio(ratio)
