@@ -6,9 +6,9 @@
 #include "display/command_queue.h"
 #include "display/key_filter.h"
 #include "display/look.h"
+#include "display/pointer_watch.h"
 #include "display/type_ahead.h"
 #include "display/x_keyboard.h"
-#include "display/pointer_watch.h"
 
 #include <atomic>
 #include <cerrno>
