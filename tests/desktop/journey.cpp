@@ -133,6 +133,17 @@ journey::alone()
 
 
 void
+journey::bring_forward()
+{
+	if (window().active)
+		return;
+	fDesktop->activate(window());
+	until("the main window does not become active", [&] { return window().active; });
+	at_rest();
+}
+
+
+void
 journey::move(QPointF where)
 {
 	fDesktop->move_to(window().contents.topLeft() + where);
@@ -252,32 +263,39 @@ journey::picture()
 }
 
 
-static long
-count_pixels(const QImage& image, QRgb colour)
+double
+journey::count(const std::function<bool(QRgb)>& wanted, QRectF area)
 {
+	QImage image = picture(area);
 	long found = 0;
 	for (int y = 0; y < image.height(); y++) {
 		auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
 		for (int x = 0; x < image.width(); x++)
-			found += (row[x] | 0xff000000) == colour;
+			found += wanted(row[x] | black);
 	}
-	return found;
+	return (double)found / (fDesktop->scale() * fDesktop->scale());
 }
 
 
 double
 journey::count(QRgb colour, QRectF area)
 {
-	return (double)count_pixels(picture(area), colour) / (fDesktop->scale() * fDesktop->scale());
+	return count([=](QRgb pixel) { return pixel == colour; }, area);
 }
 
 
 double
 journey::count_other(QRgb colour, QRectF area)
 {
-	QImage image = picture(area);
-	return (double)(image.width() * image.height() - count_pixels(image, colour))
-		/ (fDesktop->scale() * fDesktop->scale());
+	return count([=](QRgb pixel) { return pixel != colour; }, area);
+}
+
+
+// Red letters on the strip, also where they are blended with it.
+double
+journey::count_red(QRectF area)
+{
+	return count([](QRgb pixel) { return qRed(pixel) > 230 && qGreen(pixel) < 150; }, area);
 }
 
 
@@ -287,7 +305,7 @@ journey::at_rest()
 	until("the screen does not come to rest", [&] {
 		QImage before = fDesktop->picture();
 		pause(300);
-		return difference(before, fDesktop->picture()) == 0;
+		return before == fDesktop->picture();
 	});
 }
 

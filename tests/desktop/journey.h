@@ -9,6 +9,7 @@
 #include "support/octets.h"
 #include "support/temp_files.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -47,6 +48,8 @@ protected:
 	shown_window wait_for(const std::string& title);
 	// Waits until the main window is the only one and gets the keys.
 	void alone();
+	// The main window gets the keys, and what is in front of it no longer is.
+	void bring_forward();
 
 	// --- the pointer
 
@@ -72,9 +75,13 @@ protected:
 	QImage picture(QRectF area);
 	// The contents of the main window.
 	QImage picture();
-	// How many pixels of the area have exactly this colour, or have not; of the program's size.
+	// How many pixels of the area are like this, have exactly this colour, or have not; of the
+	// program's size.
+	double count(const std::function<bool(QRgb)>& wanted, QRectF area);
 	double count(QRgb colour, QRectF area);
 	double count_other(QRgb colour, QRectF area);
+	// The chosen tag's.
+	double count_red(QRectF area);
 	// Waits until nothing has changed on the screen for longer than a caret takes to blink.
 	void at_rest();
 
@@ -88,7 +95,7 @@ protected:
 	void answer(const std::string& title, const std::string& file);
 	// Shows a table's panel by its tag in the strip.
 	void tag(const std::string& name);
-	// Fills a field.
+	// Fills a field, as somebody who looks before typing.
 	void enter(QPointF field, const std::string& text);
 
 private:
@@ -101,9 +108,9 @@ private:
 	QImage fBeforeMenu;
 };
 
-// Colours of the program: the work view, its title card, the strip, the chosen tag.
+// Colours of the program: the work view, its title card, panels, the strip.
 constexpr QRgb work_grey = qRgb(50, 50, 50), white = qRgb(255, 255, 255), black = qRgb(0, 0, 0),
-			   strip_yellow = qRgb(255, 204, 68), tag_red = qRgb(255, 0, 0);
+			   strip_yellow = qRgb(255, 204, 68);
 
 // Parts of the window at its full size.
 constexpr QRectF strip_area(0, 21, 560, 31), work_area(0, 53, 562, 512);

@@ -42,6 +42,7 @@ journey::menu_is_open()
 void
 journey::open_menu()
 {
+	bring_forward();
 	fBeforeMenu = picture(menu_area);
 	click(menu_title);
 	until("the menu does not open", [&] { return menu_is_open(); });
@@ -95,15 +96,19 @@ journey::tag(const std::string& name)
 	QRectF cell(10 + 30 * place, 42, 30, 11);
 	click({cell.left() + 8, 46});
 	stand_aside();
-	until("the tag " + name + " is not red", [&] { return count(tag_red, cell) >= 5; });
+	until("the tag " + name + " is not red", [&] { return count_red(cell) >= 5; });
 }
 
 
 void
 journey::enter(QPointF field, const std::string& text)
 {
+	QRectF around(field - QPointF(10, 8), QSizeF(20, 16));
+	at_rest();
+	QImage before = picture(around);
 	click(field);
 	key("ctrl+a");
+	until("the field does not take the keyboard", [&] { return picture(around) != before; });
 	type(text);
 	key("Return");
 }

@@ -35,7 +35,7 @@ TEST_P(opening, shows_the_font_that_is_named_and_saves_it_and_opens_another)
 	start({first});
 	EXPECT_GE(count(white, {40, 70, 200, 70}), 500);
 	EXPECT_GE(count(work_grey, {0, 53, 560, 500}), 200'000);
-	EXPECT_EQ(count(tag_red, strip_area), 0);
+	EXPECT_EQ(count_red(strip_area), 0);
 	tag("head");
 
 	choose(file_save);
@@ -45,7 +45,7 @@ TEST_P(opening, shows_the_font_that_is_named_and_saves_it_and_opens_another)
 
 	choose(file_open);
 	answer("Open", second);
-	until("the tag is still red", [&] { return count(tag_red, strip_area) == 0; });
+	until("the tag is still red", [&] { return count_red(strip_area) == 0; });
 	until("no tags", [&] { return count_other(strip_yellow, strip_area) >= 60; });
 
 	choose(file_save);
