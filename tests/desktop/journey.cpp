@@ -129,6 +129,7 @@ journey::alone()
 		auto all = fDesktop->windows();
 		return all.size() == 1 && all[0].active;
 	});
+	at_rest();
 }
 
 

@@ -46,7 +46,7 @@ protected:
 	std::optional<shown_window> find(const std::string& title);
 	// Waits for it, and that it gets the keys.
 	shown_window wait_for(const std::string& title);
-	// Waits until the main window is the only one and gets the keys.
+	// Waits until the main window is the only one, gets the keys and is at rest.
 	void alone();
 	// The main window gets the keys, and what is in front of it no longer is.
 	void bring_forward();

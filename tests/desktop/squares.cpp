@@ -113,17 +113,13 @@ outline_journey::is_drawn(int square)
 void
 outline_journey::drawn(const std::string& wanted)
 {
-	std::string seen;
-	try {
-		until("", [&] {
-			seen.clear();
-			for (int i = 0; i < square_count; i++)
-				seen += is_drawn(i) ? std::to_string(i) : "";
-			return seen == wanted;
-		});
-	} catch (const journey_failed&) {
-		throw journey_failed("squares " + seen + " are drawn, not " + wanted);
-	}
+	auto seen = [&] {
+		std::string numbers;
+		for (int i = 0; i < square_count; i++)
+			numbers += is_drawn(i) ? std::to_string(i) : "";
+		return numbers;
+	};
+	until("the squares that are drawn are not " + wanted, [&] { return seen() == wanted; });
 }
 
 
@@ -147,6 +143,15 @@ outline_journey::band(int square)
 {
 	QRectF around = area_of(square);
 	drag(around.topLeft(), around.bottomRight());
+}
+
+
+void
+outline_journey::select_first()
+{
+	QImage before = canvas();
+	key("Left");
+	changes_from(before);
 }
 
 

@@ -31,6 +31,8 @@ protected:
 	void press_on_canvas();
 	// Drags a band around one square.
 	void band(int square);
+	// By the left arrow, with no other selected.
+	void select_first();
 	// Waits until the canvas looks different.
 	void changes_from(const QImage& before);
 };

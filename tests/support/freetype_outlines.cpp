@@ -41,6 +41,13 @@ public:
 	long glyphs() const { return fFace->num_glyphs; }
 	FT_Error load(long index) { return FT_Load_Glyph(fFace, FT_UInt(index), FT_LOAD_NO_SCALE); }
 	const FT_Outline& outline() const { return fFace->glyph->outline; }
+	unsigned glyph_of(unsigned character) { return FT_Get_Char_Index(fFace, character); }
+	unsigned components(unsigned glyph)
+	{
+		FT_Error error = FT_Load_Glyph(fFace, glyph, FT_LOAD_NO_SCALE | FT_LOAD_NO_RECURSE);
+		bool composite = error == 0 && fFace->glyph->format == FT_GLYPH_FORMAT_COMPOSITE;
+		return composite ? fFace->glyph->num_subglyphs : 0;
+	}
 	long advance() const { return fFace->glyph->metrics.horiAdvance; }
 
 private:
@@ -90,4 +97,22 @@ compare_outlines(const octets& one, const octets& other)
 		result.glyphs++;
 	}
 	return result;
+}
+
+
+unsigned
+glyph_of_character(const octets& font, unsigned character)
+{
+	library types;
+	face one(types, font);
+	return one.open() ? one.glyph_of(character) : 0;
+}
+
+
+unsigned
+components_of_glyph(const octets& font, unsigned glyph)
+{
+	library types;
+	face one(types, font);
+	return one.open() ? one.components(glyph) : 0;
 }

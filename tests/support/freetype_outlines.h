@@ -19,4 +19,9 @@ struct outline_comparison {
 
 outline_comparison compare_outlines(const octets& one, const octets& other);
 
+// The glyph of a Unicode character; 0 where the font has none or is no font.
+unsigned glyph_of_character(const octets& font, unsigned character);
+// How many components a glyph has; 0 for one with contours of its own or without any.
+unsigned components_of_glyph(const octets& font, unsigned glyph);
+
 #endif

@@ -18,15 +18,25 @@ write_text(const std::string& path, const std::string& text)
 }
 
 
-// Its own settings but for the buttons.
+static void
+set_element(std::string& settings, const std::string& name, const std::string& value)
+{
+	std::string start = "<" + name + ">", end = "</" + name + ">";
+	size_t from = settings.find(start), to = settings.find(end);
+	if (from == std::string::npos || to == std::string::npos)
+		throw journey_failed("openbox has no setting " + name);
+	from += start.size();
+	settings.replace(from, to - from, value);
+}
+
+
+// Its own settings but for the buttons, and without windows that fly about.
 static std::vector<std::string>
 openbox_command(const std::string& folder)
 {
 	std::string settings = text_of("/etc/xdg/openbox/rc.xml");
-	size_t start = settings.find("<titleLayout>"), end = settings.find("</titleLayout>");
-	if (start == std::string::npos || end == std::string::npos)
-		throw journey_failed("openbox's settings say nothing of its title bars");
-	settings.replace(start, end - start, "<titleLayout>CLM");
+	set_element(settings, "titleLayout", "CLM");
+	set_element(settings, "animateIconify", "no");
 	write_text(folder + "/openbox.xml", settings);
 	return {"openbox", "--sm-disable", "--config-file", folder + "/openbox.xml"};
 }

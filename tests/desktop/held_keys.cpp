@@ -1,0 +1,106 @@
+// Copyright 2026 the kernix authors
+// SPDX-License-Identifier: MIT
+
+// A key that is held on a control repeats for the desktop, not for the program.
+#include "desktop/squares.h"
+#include "support/freetype_outlines.h"
+
+using held_key = outline_journey;
+INSTANTIATE_TEST_SUITE_P(, held_key, testing::ValuesIn(all_desktops), name_of);
+
+// More than it takes any desktop to begin to repeat a key.
+constexpr int long_enough = 1'500;
+
+namespace {
+
+// Where the keyboard goes by Tab from the field above: "add" of a composite glyph's components.
+class held_on_add : public outline_journey {
+protected:
+	// How many components a glyph without any has when the key has been held there.
+	unsigned components_after(const std::string& name)
+	{
+		at_squares();
+		enter(in_panel(30, 80), "0");
+		drawn("");
+		click(in_panel(25, 410)); // "compo"
+		until("no field for components", [&] { return count(white, {20, 315, 20, 16}) > 100; });
+		enter(in_panel(30, 270), "1");
+		key("Tab");
+		hold(name, long_enough);
+		drawn("01234");
+		at_rest();
+		click(in_panel(25, 440)); // "set"
+		at_rest();
+		choose(file_save);
+		answer("Save as", path("saved.ttf"));
+		until("nothing is saved", [&] { return size_of(path("saved.ttf")) > 0; });
+		alone();
+		return components_of_glyph(read_file(path("saved.ttf")), 0);
+	}
+};
+
+}
+
+INSTANTIATE_TEST_SUITE_P(, held_on_add, testing::ValuesIn(all_desktops), name_of);
+
+
+TEST_P(held_on_add, Return_acts_once)
+{
+	EXPECT_EQ(components_after("Return"), 1u);
+}
+
+
+TEST_P(held_on_add, space_acts_once)
+{
+	EXPECT_EQ(components_after("space"), 1u);
+}
+
+
+TEST_P(held_key, space_turns_a_check_box_over_once)
+{
+	constexpr QRectF mark(3, 53 + 13, 9, 9);
+	start();
+	choose(file_new);
+	until("no boxes", [&] { return count(white, mark) > 40; });
+	at_rest();
+	click(in_panel(8, 18));
+	at_rest();
+	QImage last = picture(mark);
+	int turns = 0;
+	screen().key(key_symbol("space"), true);
+	comes_within(long_enough, [&] {
+		QImage now = picture(mark);
+		turns += now != last;
+		last = now;
+		return false;
+	});
+	screen().key(key_symbol("space"), false);
+	at_rest();
+	turns += picture(mark) != last;
+	EXPECT_EQ(turns, 1);
+}
+
+
+// The slider of the bearing and the field that shows what it reports.
+TEST_P(held_key, right_moves_a_slider_which_reports_once_at_the_end)
+{
+	constexpr QRectF bar(20, 53 + 480, 220, 20), field(430, 53 + 452, 48, 16);
+	start({font("squares.ttf", squares_font())});
+	tag("hmtx");
+	enter(in_panel(100, 460), "1");
+	at_rest();
+	click(in_panel(150, 490));
+	at_rest();
+	QImage bar_before = picture(bar), before = picture(field);
+	bool moved = false, reported = false;
+	screen().key(key_symbol("Right"), true);
+	comes_within(long_enough, [&] {
+		moved = moved || picture(bar) != bar_before;
+		reported = reported || picture(field) != before;
+		return false;
+	});
+	EXPECT_TRUE(moved);
+	EXPECT_FALSE(reported);
+	screen().key(key_symbol("Right"), false);
+	until("the slider does not report", [&] { return picture(field) != before; });
+}
