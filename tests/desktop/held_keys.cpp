@@ -25,7 +25,9 @@ protected:
 		click(in_panel(25, 410)); // "compo"
 		until("no field for components", [&] { return count(white, {20, 315, 20, 16}) > 100; });
 		enter(in_panel(30, 270), "1");
+		at_rest();
 		key("Tab");
+		at_rest();
 		hold(name, long_enough);
 		drawn("01234");
 		at_rest();
@@ -56,6 +58,7 @@ TEST_P(held_on_add, space_acts_once)
 }
 
 
+// Tab leads to "set", then to the first box.
 TEST_P(held_key, space_turns_a_check_box_over_once)
 {
 	constexpr QRectF mark(3, 53 + 13, 9, 9);
@@ -63,7 +66,9 @@ TEST_P(held_key, space_turns_a_check_box_over_once)
 	choose(file_new);
 	until("no boxes", [&] { return count(white, mark) > 40; });
 	at_rest();
-	click(in_panel(8, 18));
+	key("Tab");
+	at_rest();
+	key("Tab");
 	at_rest();
 	QImage last = picture(mark);
 	int turns = 0;
@@ -88,8 +93,11 @@ TEST_P(held_key, right_moves_a_slider_which_reports_once_at_the_end)
 	start({font("squares.ttf", squares_font())});
 	tag("hmtx");
 	enter(in_panel(100, 460), "1");
-	at_rest();
-	click(in_panel(150, 490));
+	// Over three fields and a button.
+	for (int i = 0; i < 5; i++) {
+		at_rest();
+		key("Tab");
+	}
 	at_rest();
 	QImage bar_before = picture(bar), before = picture(field);
 	bool moved = false, reported = false;

@@ -301,6 +301,18 @@ journey::count_red(QRectF area)
 
 
 void
+journey::shows(const QImage& wanted, QRectF area)
+{
+	long differing = 0;
+	auto alike = [&] {
+		differing = difference(picture(area), wanted);
+		return differing == 0;
+	};
+	until("the window does not look as it should", alike);
+}
+
+
+void
 journey::at_rest()
 {
 	until("the screen does not come to rest", [&] {

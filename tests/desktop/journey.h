@@ -82,6 +82,8 @@ protected:
 	double count_other(QRgb colour, QRectF area);
 	// The chosen tag's.
 	double count_red(QRectF area);
+	// Waits until this is what an area looks like, or all of the window.
+	void shows(const QImage& wanted, QRectF area);
 	// Waits until nothing has changed on the screen for longer than a caret takes to blink.
 	void at_rest();
 

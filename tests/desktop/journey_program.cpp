@@ -103,7 +103,7 @@ journey::tag(const std::string& name)
 void
 journey::enter(QPointF field, const std::string& text)
 {
-	QRectF around(field - QPointF(10, 8), QSizeF(20, 16));
+	QRectF around(field - QPointF(45, 9), QSizeF(90, 18));
 	at_rest();
 	QImage before = picture(around);
 	click(field);

@@ -151,7 +151,9 @@ TEST_P(keyboard, comes_to_the_canvas_of_the_next_font)
 	alone();
 	until("the panel stays", [&] { return count_red(strip_area) == 0; });
 	tag("glyf");
-	choose_again();
+	enter(in_panel(30, 80), "1");
+	drawn("01234");
+	press_on_canvas();
 	band(3);
 	key("Delete");
 	drawn("0124");

@@ -9,8 +9,7 @@ protected:
 	void at_small_window();
 	// Presses on an arrow of the vertical bar: one step of 5 pixels each.
 	void step_down(int times);
-	// The whole of what the canvas shows, a part of it that scrolling keeps in sight, and where
-	// that is before.
+	// Where a part of the canvas is, a corner of the first square, that has moved so far.
 	QRectF kept(double across, double down);
 
 	static constexpr QSizeF small{420, 320};
@@ -42,7 +41,6 @@ scrolling::step_down(int times)
 }
 
 
-// Around the first square.
 QRectF
 scrolling::kept(double across, double down)
 {
@@ -55,11 +53,9 @@ TEST_P(scrolling, by_the_wheel_goes_15_pixels_a_notch_and_back)
 	at_small_window();
 	QImage before = canvas(), part = picture(kept(0, 0));
 	wheel(unit(200, 200), desktop::downward, 4);
-	at_rest();
-	EXPECT_EQ(difference(picture(kept(0, 60)), part), 0);
+	shows(part, kept(0, 60));
 	wheel(unit(200, 200), desktop::upward, 4);
-	at_rest();
-	EXPECT_EQ(difference(canvas(), before), 0);
+	canvas_is(before);
 }
 
 
@@ -67,16 +63,15 @@ TEST_P(scrolling, by_the_wheel_with_Shift_goes_sideways)
 {
 	at_small_window();
 	QImage before = canvas(), part = picture(kept(0, 0));
-	screen().key(key_symbol("Shift_L"), true);
-	wheel(unit(300, 300), desktop::downward, 4);
-	screen().key(key_symbol("Shift_L"), false);
-	at_rest();
-	EXPECT_EQ(difference(picture(kept(60, 0)), part), 0);
-	screen().key(key_symbol("Shift_L"), true);
-	wheel(unit(300, 300), desktop::upward, 4);
-	screen().key(key_symbol("Shift_L"), false);
-	at_rest();
-	EXPECT_EQ(difference(canvas(), before), 0);
+	auto sideways = [&](desktop::direction way) {
+		screen().key(key_symbol("Shift_L"), true);
+		wheel(unit(300, 300), way, 4);
+		screen().key(key_symbol("Shift_L"), false);
+	};
+	sideways(desktop::downward);
+	shows(part, kept(60, 0));
+	sideways(desktop::upward);
+	canvas_is(before);
 }
 
 
@@ -120,7 +115,7 @@ TEST_P(scrolling, by_single_steps_leaves_what_a_repaint_gives)
 	QImage scrolled = canvas();
 	key("Left");
 	changes_from(scrolled);
-	key("Right");
 	at_rest();
-	EXPECT_EQ(difference(canvas(), scrolled), 0);
+	key("Right");
+	canvas_is(scrolled);
 }

@@ -70,7 +70,12 @@ outline_journey::at_squares()
 {
 	start({font("squares.ttf", squares_font())});
 	tag("glyf");
-	choose_again();
+	enter(in_panel(30, 80), "1");
+	drawn("01234");
+	press_on_canvas();
+	stand_aside();
+	at_rest();
+	fUnselected = canvas();
 }
 
 
@@ -80,10 +85,10 @@ outline_journey::choose_again()
 {
 	press_on_canvas();
 	enter(in_panel(30, 80), "1");
-	drawn("01234");
+	at_rest();
 	press_on_canvas();
 	stand_aside();
-	at_rest();
+	canvas_is(fUnselected);
 }
 
 
@@ -123,11 +128,12 @@ outline_journey::drawn(const std::string& wanted)
 }
 
 
-QImage
-outline_journey::canvas()
+QRectF
+outline_journey::canvas_area()
 {
-	QSizeF shown = window().contents.size() - QSizeF(14 + canvas_place.x(), 14 + canvas_place.y());
-	return picture({canvas_place, shown});
+	constexpr QSizeF bars(14, 14);
+	QSizeF shown = window().contents.size() - bars - QSizeF(canvas_place.x(), canvas_place.y());
+	return {canvas_place, shown};
 }
 
 

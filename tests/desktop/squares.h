@@ -26,15 +26,20 @@ protected:
 	// Waits until these squares are there, like "01234", and the others are not.
 	void drawn(const std::string& squares);
 	// The canvas, as far as the window shows it.
-	QImage canvas();
+	QRectF canvas_area();
+	QImage canvas() { return picture(canvas_area()); }
 	// Presses and releases where nothing is drawn.
 	void press_on_canvas();
 	// Drags a band around one square.
 	void band(int square);
 	// By the left arrow, with no other selected.
 	void select_first();
-	// Waits until the canvas looks different.
+	// Wait until the canvas looks different, or like this.
 	void changes_from(const QImage& before);
+	void canvas_is(const QImage& wanted) { shows(wanted, canvas_area()); }
+
+private:
+	QImage fUnselected;
 };
 
 #endif
