@@ -40,11 +40,13 @@ journey::keep_evidence()
 	const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
 	std::string name = std::string(test.test_suite_name()) + "." + test.name();
 	std::replace(name.begin(), name.end(), '/', '.');
-	std::string place = std::string(KERNIX_EVIDENCE) + "/" + name;
-	std::filesystem::create_directories(KERNIX_EVIDENCE);
+	std::string place = std::string(KERNIX_EVIDENCE) + "/" + name + ".png";
+	std::error_code ignored;
+	std::filesystem::create_directories(KERNIX_EVIDENCE, ignored);
 	try {
-		fDesktop->picture().save(QString::fromStdString(place + ".png"));
-		std::cerr << "journey: the screen is kept in " << place << ".png\n";
+		bool kept = fDesktop->picture().save(QString::fromStdString(place));
+		std::cerr << "journey: the screen " << (kept ? "is" : "cannot be") << " kept in " << place
+				  << "\n";
 	} catch (const journey_failed& failure) {
 		std::cerr << "journey: " << failure.what() << "\n";
 	}
@@ -191,6 +193,7 @@ journey::wheel(QPointF where, desktop::direction direction, int notches)
 	move(where);
 	for (int i = 0; i < notches; i++)
 		fDesktop->notch(direction);
+	stand_aside();
 }
 
 
@@ -207,8 +210,8 @@ chord(const std::string& name)
 {
 	std::vector<uint32_t> keys;
 	std::string rest = name;
-	for (const auto& [prefix, symbol] : {std::pair("ctrl+", "Control_L"), {"shift+", "Shift_L"},
-			 {"alt+", "Alt_L"}}) {
+	for (const auto& [prefix, symbol] :
+		{std::pair("ctrl+", "Control_L"), {"shift+", "Shift_L"}, {"alt+", "Alt_L"}}) {
 		if (rest.starts_with(prefix)) {
 			keys.push_back(key_symbol(symbol));
 			rest = rest.substr(std::string(prefix).size());

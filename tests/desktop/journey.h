@@ -117,7 +117,8 @@ constexpr QRgb work_grey = qRgb(50, 50, 50), white = qRgb(255, 255, 255), black 
 // Parts of the window at its full size.
 constexpr QRectF strip_area(0, 21, 560, 31), work_area(0, 53, 562, 512);
 // From the left top of a panel.
-constexpr QPointF in_panel(double x, double y)
+constexpr QPointF
+in_panel(double x, double y)
 {
 	return {x, 53 + y};
 }

@@ -54,9 +54,8 @@ keyboard::saves_over(const std::string& file)
 	until("no question", [&] { return screen().windows().size() == 3; });
 	until("the question does not get the keys", [&] {
 		auto all = screen().windows();
-		return std::any_of(all.begin(), all.end(), [](const shown_window& each) {
-			return each.active && each.contents.height() < 200;
-		});
+		return std::any_of(all.begin(), all.end(),
+			[](const shown_window& each) { return each.active && each.contents.height() < 200; });
 	});
 	key("Return");
 	alone();

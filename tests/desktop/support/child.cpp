@@ -33,8 +33,8 @@ become(char* const* arguments, const char* output, const char* errors)
 }
 
 
-child::child(const std::vector<std::string>& command, const std::string& output,
-	const std::string& errors)
+child::child(
+	const std::vector<std::string>& command, const std::string& output, const std::string& errors)
 {
 	std::vector<char*> arguments;
 	for (const std::string& each : command)

@@ -60,9 +60,8 @@ desktop::start(const desktop_kind& kind, const std::string& folder)
 uint32_t
 key_symbol(const std::string& name)
 {
-	uint32_t symbol = name.size() == 1
-		? xkb_utf32_to_keysym((unsigned char)name[0])
-		: xkb_keysym_from_name(name.c_str(), XKB_KEYSYM_NO_FLAGS);
+	uint32_t symbol = name.size() == 1 ? xkb_utf32_to_keysym((unsigned char)name[0])
+									   : xkb_keysym_from_name(name.c_str(), XKB_KEYSYM_NO_FLAGS);
 	if (symbol == XKB_KEY_NoSymbol)
 		throw journey_failed("no key is called " + name);
 	return symbol;

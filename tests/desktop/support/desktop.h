@@ -5,8 +5,8 @@
 
 #include <cstdint>
 #include <memory>
-#include <QMarginsF>
 #include <QImage>
+#include <QMarginsF>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>

@@ -24,9 +24,15 @@ missing_for(const desktop_kind& kind)
 {
 	std::vector<const char*> needed;
 	switch (kind.manager) {
-		case desktop_kind::openbox: needed = {"Xvfb", "openbox"}; break;
-		case desktop_kind::xfwm4: needed = {"Xvfb", "xfwm4", "dbus-run-session"}; break;
-		case desktop_kind::sway: needed = {"sway", "grim", "setpriv"}; break;
+		case desktop_kind::openbox:
+			needed = {"Xvfb", "openbox"};
+			break;
+		case desktop_kind::xfwm4:
+			needed = {"Xvfb", "xfwm4", "dbus-run-session"};
+			break;
+		case desktop_kind::sway:
+			needed = {"sway", "grim", "setpriv"};
+			break;
 	}
 	for (const char* each : needed) {
 		if (QStandardPaths::findExecutable(each).isEmpty())

@@ -25,8 +25,10 @@ settings(double scale)
 {
 	auto pixels = [&](double length) { return std::to_string((int)(length * scale)); };
 	return "xwayland disable\n"
-		   "output HEADLESS-1 mode " + pixels(screen_size.width()) + "x" + pixels(screen_size.height())
-		+ "@60Hz position 0 0 scale " + std::to_string(scale) + " bg #000000 solid_color\n"
+		   "output HEADLESS-1 mode "
+		+ pixels(screen_size.width()) + "x" + pixels(screen_size.height())
+		+ "@60Hz position 0 0 scale " + std::to_string(scale)
+		+ " bg #000000 solid_color\n"
 		  "default_border none\n"
 		  "default_floating_border none\n"
 		  "focus_follows_mouse no\n"
@@ -44,8 +46,8 @@ as_nobody(const std::string& folder, std::vector<std::string> command)
 		return command;
 	if (chown((folder + "/run").c_str(), nobody->pw_uid, nobody->pw_gid) != 0)
 		throw journey_failed("the folder of the sockets cannot be given away");
-	std::filesystem::permissions(folder,
-		std::filesystem::perms::owner_all | std::filesystem::perms::others_exec);
+	std::filesystem::permissions(
+		folder, std::filesystem::perms::owner_all | std::filesystem::perms::others_exec);
 	std::vector<std::string> as = {"setpriv", "--reuid", "nobody", "--regid",
 		std::to_string(nobody->pw_gid), "--clear-groups", "--pdeathsig", "TERM"};
 	as.insert(as.end(), command.begin(), command.end());
@@ -74,14 +76,13 @@ sway_desktop::sway_desktop(const desktop_kind& kind, const std::string& folder)
 	std::string path = folder + "/run/config";
 	std::ofstream(path) << settings(kind.scale);
 	setenv("SWAYSOCK", fSocket.c_str(), 1);
-	fServer = std::make_unique<child>(
-		as_nobody(folder,
-			{"env", "WLR_BACKENDS=headless", "WLR_LIBINPUT_NO_DEVICES=1", "WLR_RENDERER=pixman",
-				"sway", "-c", path}),
-		folder + "/server", folder + "/server");
-	until("the Wayland server does not start", [&] {
-		return !display_in(folder + "/run").empty() && std::filesystem::exists(fSocket);
-	});
+	fServer =
+		std::make_unique<child>(as_nobody(folder,
+									{"env", "WLR_BACKENDS=headless", "WLR_LIBINPUT_NO_DEVICES=1",
+										"WLR_RENDERER=pixman", "sway", "-c", path}),
+			folder + "/server", folder + "/server");
+	until("the Wayland server does not start",
+		[&] { return !display_in(folder + "/run").empty() && std::filesystem::exists(fSocket); });
 	setenv("WAYLAND_DISPLAY", display_in(folder + "/run").c_str(), 1);
 	setenv("QT_QPA_PLATFORM", "wayland", 1);
 	fDevices = std::make_unique<wayland_devices>(screen_size, folder);
@@ -125,7 +126,7 @@ void
 sway_desktop::command(const std::string& text)
 {
 	QByteArray answer = ask(run_command, text);
-	if (answer.contains("\"success\": false"))
+	if (!QJsonDocument::fromJson(answer)[0]["success"].toBool())
 		throw journey_failed("the server refuses \"" + text + "\": " + answer.toStdString());
 }
 
@@ -147,8 +148,8 @@ sway_desktop::button(mouse_button which, bool down)
 void
 sway_desktop::notch(direction where)
 {
-	fDevices->notch(where == downward || where == rightward ? 1 : -1,
-		where == leftward || where == rightward);
+	fDevices->notch(
+		where == downward || where == rightward ? 1 : -1, where == leftward || where == rightward);
 }
 
 

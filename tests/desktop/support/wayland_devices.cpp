@@ -32,18 +32,24 @@ static const wl_message pointer_requests[] = {
 	{"axis_discrete", "uufi", no_types},
 	{"destroy", "", no_types},
 };
-enum { pointer_motion_absolute = 1, pointer_button, pointer_frame = 4, pointer_source,
-	pointer_discrete = 7, pointer_destroy };
+enum {
+	pointer_motion_absolute = 1,
+	pointer_button,
+	pointer_frame = 4,
+	pointer_source,
+	pointer_discrete = 7,
+	pointer_destroy
+};
 
-static const wl_interface pointer_interface = {"zwlr_virtual_pointer_v1", 1, 9, pointer_requests, 0,
-	nullptr};
+static const wl_interface pointer_interface = {
+	"zwlr_virtual_pointer_v1", 1, 9, pointer_requests, 0, nullptr};
 
 static const wl_interface* make_pointer[] = {&wl_seat_interface, &pointer_interface};
 
 static const wl_message pointers_requests[] = {{"create_virtual_pointer", "?on", make_pointer}};
 
-static const wl_interface pointers_interface = {"zwlr_virtual_pointer_manager_v1", 1, 1,
-	pointers_requests, 0, nullptr};
+static const wl_interface pointers_interface = {
+	"zwlr_virtual_pointer_manager_v1", 1, 1, pointers_requests, 0, nullptr};
 
 static const wl_message keyboard_requests[] = {
 	{"keymap", "uhu", no_types},
@@ -53,15 +59,15 @@ static const wl_message keyboard_requests[] = {
 };
 enum { keyboard_keymap, keyboard_key, keyboard_modifiers, keyboard_destroy };
 
-static const wl_interface keyboard_interface = {"zwp_virtual_keyboard_v1", 1, 4, keyboard_requests,
-	0, nullptr};
+static const wl_interface keyboard_interface = {
+	"zwp_virtual_keyboard_v1", 1, 4, keyboard_requests, 0, nullptr};
 
 static const wl_interface* make_keyboard[] = {&wl_seat_interface, &keyboard_interface};
 
 static const wl_message keyboards_requests[] = {{"create_virtual_keyboard", "on", make_keyboard}};
 
-static const wl_interface keyboards_interface = {"zwp_virtual_keyboard_manager_v1", 1, 1,
-	keyboards_requests, 0, nullptr};
+static const wl_interface keyboards_interface = {
+	"zwp_virtual_keyboard_manager_v1", 1, 1, keyboards_requests, 0, nullptr};
 
 // Key codes of the format are by 8 larger than the kernel's, which the protocol takes.
 constexpr uint32_t xkb_offset = 8;
@@ -94,9 +100,7 @@ wayland_devices::wayland_devices(QSizeF screens, const std::string& folder)
 		throw journey_failed("the Wayland server does not answer");
 	static const wl_registry_listener listener = {
 		[](void* data, wl_registry* registry, uint32_t name, const char* interface,
-			uint32_t version) {
-			announce(data, (wl_proxy*)registry, name, interface, version);
-		},
+			uint32_t version) { announce(data, (wl_proxy*)registry, name, interface, version); },
 		[](void*, wl_registry*, uint32_t) {}};
 	fRegistry = (wl_proxy*)wl_display_get_registry(fServer);
 	wl_registry_add_listener((wl_registry*)fRegistry, &listener, this);
@@ -118,8 +122,8 @@ wayland_devices::plug_in(const std::string& folder)
 	const xkb_rule_names american = {"evdev", "pc105", "us", "", ""};
 	fKeymap = xkb_keymap_new_from_names(context, &american, XKB_KEYMAP_COMPILE_NO_FLAGS);
 	xkb_context_unref(context);
-	char* text = fKeymap == nullptr ? nullptr
-									: xkb_keymap_get_as_string(fKeymap, XKB_KEYMAP_FORMAT_TEXT_V1);
+	char* text =
+		fKeymap == nullptr ? nullptr : xkb_keymap_get_as_string(fKeymap, XKB_KEYMAP_FORMAT_TEXT_V1);
 	if (text == nullptr)
 		throw journey_failed("no keymap");
 	size_t size = strlen(text) + 1;
@@ -222,10 +226,17 @@ wayland_devices::key(uint32_t symbol, bool down)
 		fKeyboard, keyboard_key, nullptr, 1, 0, now(), find(symbol).code, (uint32_t)down);
 	uint32_t modifier = 0;
 	switch (symbol) {
-		case XKB_KEY_Shift_L: modifier = 1u << xkb_keymap_mod_get_index(fKeymap, "Shift"); break;
-		case XKB_KEY_Control_L: modifier = 1u << xkb_keymap_mod_get_index(fKeymap, "Control"); break;
-		case XKB_KEY_Alt_L: modifier = 1u << xkb_keymap_mod_get_index(fKeymap, "Mod1"); break;
-		default: break;
+		case XKB_KEY_Shift_L:
+			modifier = 1u << xkb_keymap_mod_get_index(fKeymap, "Shift");
+			break;
+		case XKB_KEY_Control_L:
+			modifier = 1u << xkb_keymap_mod_get_index(fKeymap, "Control");
+			break;
+		case XKB_KEY_Alt_L:
+			modifier = 1u << xkb_keymap_mod_get_index(fKeymap, "Mod1");
+			break;
+		default:
+			break;
 	}
 	if (modifier != 0) {
 		fModifiers = down ? fModifiers | modifier : fModifiers & ~modifier;

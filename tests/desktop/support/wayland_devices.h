@@ -38,8 +38,8 @@ private:
 		bool shifted;
 	};
 
-	static void announce(void* devices, wl_proxy* registry, uint32_t name, const char* interface,
-		uint32_t version);
+	static void announce(
+		void* devices, wl_proxy* registry, uint32_t name, const char* interface, uint32_t version);
 	void plug_in(const std::string& folder);
 	place_of_key find(uint32_t symbol);
 	uint32_t now() const;

@@ -46,8 +46,8 @@ openbox_command(const std::string& folder)
 static std::vector<std::string>
 xfwm4_command()
 {
-	std::string channel = std::string(getenv("XDG_CONFIG_HOME"))
-		+ "/xfce4/xfconf/xfce-perchannel-xml/xfwm4.xml";
+	std::string channel =
+		std::string(getenv("XDG_CONFIG_HOME")) + "/xfce4/xfconf/xfce-perchannel-xml/xfwm4.xml";
 	write_text(channel,
 		R"(<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfwm4" version="1.0">

@@ -11,8 +11,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 #include <X11/extensions/XTest.h>
-#include <X11/XKBlib.h>
 #include <X11/Xatom.h>
+#include <X11/XKBlib.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -73,9 +73,8 @@ x11_desktop::start_manager(const desktop_kind& kind, const std::string& folder)
 	fManager = std::make_unique<child>(
 		manager_command(kind, folder), folder + "/manager", folder + "/manager");
 	unsigned long root = DefaultRootWindow(fDisplay);
-	until("the window manager does not start", [&] {
-		return !property(root, "_NET_SUPPORTING_WM_CHECK").empty();
-	});
+	until("the window manager does not start",
+		[&] { return !property(root, "_NET_SUPPORTING_WM_CHECK").empty(); });
 }
 
 
@@ -140,7 +139,8 @@ x11_desktop::property(unsigned long window, const char* name)
 	unsigned char* data = nullptr;
 	std::vector<unsigned long> values;
 	if (XGetWindowProperty(fDisplay, window, XInternAtom(fDisplay, name, False), 0, 1024, False,
-			AnyPropertyType, &type, &format, &count, &left, &data) == Success
+			AnyPropertyType, &type, &format, &count, &left, &data)
+			== Success
 		&& data != nullptr) {
 		// Numbers of 32 bits come as long, whatever its size.
 		if (format == 32)
@@ -160,7 +160,8 @@ x11_desktop::text_property(unsigned long window, const char* name)
 	unsigned char* data = nullptr;
 	std::string text;
 	if (XGetWindowProperty(fDisplay, window, XInternAtom(fDisplay, name, False), 0, 1024, False,
-			AnyPropertyType, &type, &format, &count, &left, &data) == Success
+			AnyPropertyType, &type, &format, &count, &left, &data)
+			== Success
 		&& data != nullptr) {
 		if (format == 8)
 			text.assign((char*)data, count);
@@ -184,12 +185,12 @@ x11_desktop::describe(unsigned long window)
 	shown.title = text_property(window, "_NET_WM_NAME");
 	// Two strings, each with a zero at its end: the instance's name and the class.
 	shown.program = text_property(window, "WM_CLASS").c_str();
-	shown.contents = {
-		x / scale(), y / scale(), place.width / scale(), place.height / scale()};
+	shown.contents = {x / scale(), y / scale(), place.width / scale(), place.height / scale()};
 	std::vector<unsigned long> frame = property(window, "_NET_FRAME_EXTENTS");
 	if (frame.size() == 4) {
-		shown.frame = QMarginsF((double)frame[0], (double)frame[2], (double)frame[1],
-			(double)frame[3]) / scale();
+		shown.frame =
+			QMarginsF((double)frame[0], (double)frame[2], (double)frame[1], (double)frame[3])
+			/ scale();
 	}
 	std::vector<unsigned long> active = property(root, "_NET_ACTIVE_WINDOW");
 	shown.active = !active.empty() && active[0] == window;
@@ -269,13 +270,15 @@ x11_desktop::picture(QRectF part)
 	QRect all(QPoint(), (screen_size * scale()).toSize());
 	QRectF device(part.topLeft() * scale(), part.size() * scale());
 	QRect wanted = device.toRect().intersected(all);
-	XImage* image = wanted.isEmpty() ? nullptr
+	XImage* image = wanted.isEmpty()
+		? nullptr
 		: XGetImage(fDisplay, DefaultRootWindow(fDisplay), wanted.x(), wanted.y(),
 			(unsigned int)wanted.width(), (unsigned int)wanted.height(), AllPlanes, ZPixmap);
 	if (image == nullptr)
 		throw journey_failed("no picture of the screen");
 	QImage copy = QImage((const uchar*)image->data, image->width, image->height,
-		image->bytes_per_line, QImage::Format_RGB32).copy();
+		image->bytes_per_line, QImage::Format_RGB32)
+					  .copy();
 	XDestroyImage(image);
 	return copy;
 }
