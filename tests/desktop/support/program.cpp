@@ -4,6 +4,7 @@
 
 #include "desktop/support/until.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <sys/ptrace.h>
@@ -13,7 +14,8 @@
 static std::vector<std::string>
 command(const std::vector<std::string>& arguments)
 {
-	std::vector<std::string> all = {KERNIX_PROGRAM};
+	const char* another = getenv("KERNIX_PROGRAM");
+	std::vector<std::string> all = {another == nullptr ? KERNIX_PROGRAM : another};
 	all.insert(all.end(), arguments.begin(), arguments.end());
 	return all;
 }

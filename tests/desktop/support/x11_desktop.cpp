@@ -273,7 +273,7 @@ x11_desktop::picture(QRectF part)
 	XImage* image = wanted.isEmpty()
 		? nullptr
 		: XGetImage(fDisplay, DefaultRootWindow(fDisplay), wanted.x(), wanted.y(),
-			(unsigned int)wanted.width(), (unsigned int)wanted.height(), AllPlanes, ZPixmap);
+			  (unsigned int)wanted.width(), (unsigned int)wanted.height(), AllPlanes, ZPixmap);
 	if (image == nullptr)
 		throw journey_failed("no picture of the screen");
 	QImage copy = QImage((const uchar*)image->data, image->width, image->height,
