@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <sstream>
 
 static const char* const main_title = "kernix ver.0.02";
 
@@ -169,11 +170,18 @@ journey::up(desktop::mouse_button button)
 }
 
 
+// A window manager that looks at presses holds the pointer's events back meanwhile; a button that is
+// let go then is let go where the pointer is afterwards. No hand is that quick.
+constexpr int moment = 30;
+
+
 void
 journey::click(QPointF where, desktop::mouse_button button)
 {
 	down(where, button);
+	pause(moment);
 	up(button);
+	pause(moment);
 }
 
 
@@ -182,9 +190,12 @@ journey::drag(QPointF from, QPointF to)
 {
 	constexpr int steps = 5;
 	down(from);
+	pause(moment);
 	for (int i = 1; i <= steps; i++)
 		move(from + (to - from) * i / steps);
+	pause(moment);
 	up();
+	pause(moment);
 }
 
 
@@ -307,12 +318,20 @@ journey::count_red(QRectF area)
 void
 journey::shows(const QImage& wanted, QRectF area)
 {
-	long differing = 0;
+	QImage seen;
 	auto alike = [&] {
-		differing = difference(picture(area), wanted);
-		return differing == 0;
+		seen = picture(area);
+		return seen == wanted;
 	};
-	until("the window does not look as it should", alike);
+	try {
+		until("", alike);
+	} catch (const journey_failed&) {
+		QRect where = difference(seen, wanted);
+		std::ostringstream text;
+		text << "the window does not look as it should in " << where.width() << " x "
+			 << where.height() << " pixels at " << where.x() << ", " << where.y() << " of a part";
+		throw journey_failed(text.str());
+	}
 }
 
 
@@ -343,19 +362,19 @@ size_of(const std::string& path)
 }
 
 
-long
+QRect
 difference(const QImage& one, const QImage& other)
 {
 	if (one.size() != other.size())
-		return (long)std::max(one.width() * one.height(), other.width() * other.height());
-	long found = 0;
+		return one.rect() | other.rect();
+	QRect box;
 	for (int y = 0; y < one.height(); y++) {
-		auto* mine = reinterpret_cast<const QRgb*>(one.constScanLine(y));
-		auto* theirs = reinterpret_cast<const QRgb*>(other.constScanLine(y));
-		for (int x = 0; x < one.width(); x++)
-			found += ((mine[x] ^ theirs[x]) & 0xffffff) != 0;
+		for (int x = 0; x < one.width(); x++) {
+			if (one.pixel(x, y) != other.pixel(x, y))
+				box |= QRect(x, y, 1, 1);
+		}
 	}
-	return found;
+	return box;
 }
 
 

@@ -125,8 +125,8 @@ in_panel(double x, double y)
 
 // The size of a file; 0 where there is none.
 size_t size_of(const std::string& path);
-// How many pixels differ; all of them where the sizes do.
-long difference(const QImage& one, const QImage& other);
+// The smallest rectangle with all pixels that differ; everything where the sizes do.
+QRect difference(const QImage& one, const QImage& other);
 
 // For INSTANTIATE_TEST_SUITE_P.
 std::string name_of(const testing::TestParamInfo<desktop_kind>& info);

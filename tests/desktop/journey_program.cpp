@@ -17,14 +17,7 @@ static constexpr int menu_items = 5;
 QRectF
 journey::menu_box()
 {
-	QImage now = picture(menu_area);
-	QRect box;
-	for (int y = 0; y < now.height(); y++) {
-		for (int x = 0; x < now.width(); x++) {
-			if (now.pixel(x, y) != fBeforeMenu.pixel(x, y))
-				box |= QRect(x, y, 1, 1);
-		}
-	}
+	QRectF box = difference(picture(menu_area), fBeforeMenu);
 	double scale = fDesktop->scale();
 	return QRectF(box.x() / scale, box.y() / scale, box.width() / scale, box.height() / scale)
 		.translated(menu_area.topLeft());

@@ -35,7 +35,9 @@ keyboard::stays_through(const std::function<void()>& interruption)
 
 	interruption();
 	press_on_canvas();
+	at_rest();
 	band(3);
+	at_rest();
 	key("Delete");
 	drawn("124");
 }
@@ -110,6 +112,7 @@ TEST_P(keyboard, stays_on_the_canvas_through_a_menu_that_is_left)
 		key("Escape");
 		until("the menu stays open", [&] { return !menu_is_open(); });
 		stand_aside();
+		at_rest();
 	});
 }
 
@@ -136,7 +139,9 @@ TEST_P(keyboard, comes_back_to_the_canvas_that_was_hidden)
 	tag("glyf");
 	drawn("01234");
 	press_on_canvas();
+	at_rest();
 	band(3);
+	at_rest();
 	key("Delete");
 	drawn("0124");
 }
@@ -153,7 +158,9 @@ TEST_P(keyboard, comes_to_the_canvas_of_the_next_font)
 	enter(in_panel(30, 80), "1");
 	drawn("01234");
 	press_on_canvas();
+	at_rest();
 	band(3);
+	at_rest();
 	key("Delete");
 	drawn("0124");
 }
