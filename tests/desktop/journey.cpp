@@ -148,6 +148,11 @@ journey::bring_forward()
 }
 
 
+// A window manager that looks at presses holds the pointer's events back meanwhile; a button that is
+// let go then is let go where the pointer is afterwards. No hand is that quick.
+constexpr int moment = 30;
+
+
 void
 journey::move(QPointF where)
 {
@@ -168,11 +173,6 @@ journey::up(desktop::mouse_button button)
 {
 	fDesktop->button(button, false);
 }
-
-
-// A window manager that looks at presses holds the pointer's events back meanwhile; a button that is
-// let go then is let go where the pointer is afterwards. No hand is that quick.
-constexpr int moment = 30;
 
 
 void
@@ -205,6 +205,7 @@ journey::wheel(QPointF where, desktop::direction direction, int notches)
 	move(where);
 	for (int i = 0; i < notches; i++)
 		fDesktop->notch(direction);
+	pause(moment);
 	stand_aside();
 }
 
