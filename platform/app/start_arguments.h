@@ -9,7 +9,7 @@
 namespace kits {
 
 // B_REFS_RECEIVED with a reference for each argument of this process that names something that
-// exists, in order; without a field when there is none. Every argument counts as a path, and one
+// exists, in order; without a field when no argument does. Every argument counts as a path, and one
 // that leads to nothing is named in a line on standard error, the first time this is called.
 BMessage refs_of_start_arguments();
 

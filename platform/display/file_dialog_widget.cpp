@@ -144,7 +144,8 @@ file_dialog_widget::_AskToDelete()
 		return;
 	const QString what =
 		paths.size() == 1 ? quoted_leaf(paths.front()) : QString("%1 files").arg(paths.size());
-	_Ask(QString("Delete %1?").arg(what), "Delete", [this, paths] { _Delete(paths); }, false);
+	const auto agreed = [this, paths] { _Delete(paths); };
+	_Ask(QString("Delete %1?").arg(what), "Delete", agreed, false);
 }
 
 

@@ -85,10 +85,11 @@ ends_without_reader(pipe_ends& pipe, const std::function<void()>& work)
 	bool in_time = true;
 	std::thread watch([&] {
 		using namespace std::chrono_literals;
-		for (auto patience = 10'000ms; end.wait_for(patience) != std::future_status::ready;
-			patience = 10ms) {
+		auto patience = 10'000ms;
+		while (end.wait_for(patience) != std::future_status::ready) {
 			in_time = false;
 			pipe.contents();
+			patience = 10ms;
 		}
 	});
 	work();

@@ -198,8 +198,8 @@ wayland_devices::notch(int amount, bool sideways)
 wayland_devices::place_of_key
 wayland_devices::find(uint32_t symbol)
 {
-	for (xkb_keycode_t code = xkb_keymap_min_keycode(fKeymap);
-		code <= xkb_keymap_max_keycode(fKeymap); code++) {
+	const xkb_keycode_t last = xkb_keymap_max_keycode(fKeymap);
+	for (xkb_keycode_t code = xkb_keymap_min_keycode(fKeymap); code <= last; code++) {
 		for (uint32_t level = 0; level < 2; level++) {
 			const xkb_keysym_t* symbols = nullptr;
 			int count = xkb_keymap_key_get_syms_by_level(fKeymap, code, 0, level, &symbols);

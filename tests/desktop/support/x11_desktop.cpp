@@ -276,9 +276,9 @@ x11_desktop::picture(QRectF part)
 			  (unsigned int)wanted.width(), (unsigned int)wanted.height(), AllPlanes, ZPixmap);
 	if (image == nullptr)
 		throw journey_failed("no picture of the screen");
-	QImage copy = QImage((const uchar*)image->data, image->width, image->height,
-		image->bytes_per_line, QImage::Format_RGB32)
-					  .copy();
+	const QImage seen((const uchar*)image->data, image->width, image->height, image->bytes_per_line,
+		QImage::Format_RGB32);
+	QImage copy = seen.copy();
 	XDestroyImage(image);
 	return copy;
 }

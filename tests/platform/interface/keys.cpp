@@ -137,8 +137,8 @@ TEST(keys, of_digits_and_signs_with_control_have_their_plain_character)
 				strike(user, {{true, each.key, each.text, Qt::ControlModifier | pad, 0, 20}});
 				strike(user, {{false, each.key, each.text, Qt::ControlModifier | pad, 100, 20}});
 				const std::string bytes = each.bytes;
-				window.locked(
-					[&] { EXPECT_EQ(view.keys, (journal{"down " + bytes, "up " + bytes})); });
+				const journal heard{"down " + bytes, "up " + bytes};
+				window.locked([&] { EXPECT_EQ(view.keys, heard); });
 			}
 		}
 	});
