@@ -270,10 +270,10 @@ x11_desktop::picture(QRectF part)
 	QRect all(QPoint(), (screen_size * scale()).toSize());
 	QRectF device(part.topLeft() * scale(), part.size() * scale());
 	QRect wanted = device.toRect().intersected(all);
-	XImage* image = wanted.isEmpty()
-		? nullptr
-		: XGetImage(fDisplay, DefaultRootWindow(fDisplay), wanted.x(), wanted.y(),
-			  (unsigned int)wanted.width(), (unsigned int)wanted.height(), AllPlanes, ZPixmap);
+	XImage* image = nullptr;
+	if (!wanted.isEmpty())
+		image = XGetImage(fDisplay, DefaultRootWindow(fDisplay), wanted.x(), wanted.y(),
+			(unsigned int)wanted.width(), (unsigned int)wanted.height(), AllPlanes, ZPixmap);
 	if (image == nullptr)
 		throw journey_failed("no picture of the screen");
 	const QImage seen((const uchar*)image->data, image->width, image->height, image->bytes_per_line,
