@@ -109,7 +109,8 @@ TEST_F(output, into_a_full_socket_is_dropped)
 TEST_F(output, on_a_terminal_that_was_halted_is_dropped)
 {
 	int keyboard, screen;
-	ASSERT_EQ(openpty(&keyboard, &screen, nullptr, nullptr, nullptr), 0);
+	if (openpty(&keyboard, &screen, nullptr, nullptr, nullptr) != 0)
+		GTEST_SKIP() << "this system has no pseudo-terminals";
 	ASSERT_EQ(tcflow(screen, TCOOFF), 0);
 	{
 		redirected_output there(screen);
