@@ -7,7 +7,6 @@ set(quick_journeys
 	keyboard.stays_on_the_canvas_through_a_save_over_a_file/openbox
 	zoom.by_the_button_gives_one_size/openbox
 	windows.have_their_full_size_after_each_start/openbox
-	opening.shows_the_font_that_is_named_and_saves_it_and_opens_another/xfwm4
 	windows.have_their_full_size_after_each_start/sway
 )
 
